@@ -1,0 +1,102 @@
+// The two ways arguments arrive: a process command line and an option text
+// with one argument per line.
+#include <exception>
+#include <locale>
+#include <sstream>
+
+#include "frontend/basic_parser.h"
+#include "frontend/ustring.h"
+#include "results/parse_result.h"
+
+namespace quen_3_1 {
+
+namespace {
+
+ParseResult* asParseResult(IParseResult* result) { return dynamic_cast<ParseResult*>(result); }
+
+// One argument per line: leading blanks skipped, ';' and '#' lines dropped,
+// only trailing '\r'/'\n' removed (trailing blanks and tabs are data).
+std::vector<std::string> argumentsOfText(std::string const& text) {
+    std::vector<std::string> args;
+    std::ctype<char> const& ctype = std::use_facet<std::ctype<char>>(std::locale());
+    std::stringstream stream(text);
+    std::string line;
+    while (!stream.eof()) {
+        std::getline(stream, line);
+        std::size_t first = 0;
+        while (first < line.size() && ctype.is(std::ctype_base::space, line[first])) {
+            ++first;
+        }
+        if (first < line.size() && (line[first] == ';' || line[first] == '#')) {
+            continue;
+        }
+        std::size_t last = line.size();
+        while (last > first && (line[last - 1] == '\r' || line[last - 1] == '\n')) {
+            --last;
+        }
+        if (last > first) {
+            args.emplace_back(line, first, last - first);
+        }
+    }
+    return args;
+}
+
+}  // namespace
+
+// Defaults are applied before anything else; an exception from that step is
+// not caught, as hosts have always seen it.
+int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
+    ParseResult* const parseResult = asParseResult(result);
+    if (parseResult != nullptr) {
+        std::string error;
+        int const code = parseResult->applyDefault(m_storage, error);
+        if (code != 0) {
+            setLastError(error);
+            return code;
+        }
+    }
+    if (argc <= 1) {
+        return 0;
+    }
+    if (argv == nullptr) {
+        return 3;
+    }
+    try {
+        std::vector<std::string> args(argv + 1, argv + argc);
+        return parseVector(args, result);
+    } catch (std::exception const&) {
+        return 3;
+    }
+}
+
+// Unlike parseArgsVector, no defaults are applied: a text adds to what a
+// command line already gave.
+int BasicParser::parseStream(char const* text, IParseResult* result) {
+    try {
+        std::vector<std::string> args = argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text));
+        return parseVector(args, result);
+    } catch (std::exception const&) {
+        return 3;
+    }
+}
+
+int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* result) {
+    try {
+        std::string error;
+        ArgumentList list(std::move(args));
+        int code = parse("--", list, result, error);
+        if (code == 0) {
+            code = collectNonparsingArguments("--", list, asParseResult(result), error);
+        }
+        args = list.takeRemaining();
+        if (code != 0) {
+            setLastError(error);
+        }
+        return code;
+    } catch (std::exception const&) {
+        setLastError("Unidentified problem detected.");
+        return 4;
+    }
+}
+
+}  // namespace quen_3_1

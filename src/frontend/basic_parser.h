@@ -1,0 +1,70 @@
+#ifndef QUEN_3_1_FRONTEND_BASIC_PARSER_H
+#define QUEN_3_1_FRONTEND_BASIC_PARSER_H
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "options/registered_option_storage.h"
+#include "quen_3_1/quen.h"
+#include "recognizers/argument_list.h"
+#include "values/garbage.h"
+
+namespace quen_3_1 {
+
+class ParseResult;
+
+// The one IParser: owns the option registry, the text keeper, the last error
+// and the flags, and fans events out to the host's handlers.
+class BasicParser final : public IParser {
+public:
+    explicit BasicParser(int flags);
+    BasicParser(BasicParser const&) = delete;
+    BasicParser& operator=(BasicParser const&) = delete;
+
+    bool onOptionParse(char const* name) override;
+    bool onValueParse(char const* name, Value const& value) override;
+    bool onUknownArgument(char const* argument) override;
+    void destroy() override;
+    int createResult(IParseResult** out) override;
+    IOption* option(char const* names, char const* description, kel_variant_type_t type, char const* group) override;
+    int parseArgsVector(int argc, char** argv, IParseResult* result) override;
+    int parseStream(char const* text, IParseResult* result) override;
+    char const* getErrorDesc() override;
+    char const* getDescription(bool hidden) override;
+    bool addHandler(EventHandler* handler) override;
+    bool removeHandler(EventHandler* handler) override;
+    ~BasicParser() override = default;
+
+    // Runs recognition, then keeps what follows the terminator. Returns 0 or
+    // an error code with the text recorded as the last error.
+    virtual int parseVector(std::vector<std::string>& args, IParseResult* result);
+    // Lets the recognizers bid for each leading argument until the terminator.
+    virtual int parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error);
+
+    void setLastError(std::string const& text);
+    // Stores every argument after the terminator as a plain argument; with
+    // FlagPositionalAfterTerminator also offers it to the positional option.
+    int collectNonparsingArguments(std::string terminator, ArgumentList& args, ParseResult* result, std::string& error);
+    // Wraps `text` into lines of at most indent + width - 1 characters, the
+    // first one starting with `head`.
+    static std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width);
+
+    RegisteredOptionStorage const& storage() const { return m_storage; }
+
+private:
+    std::string describe(bool hidden);
+    std::string describeOption(OptionDescription const& option);
+    int offerToPositional(std::string const& argument, ParseResult* result, std::string& error);
+
+    RegisteredOptionStorage m_storage;
+    Garbage m_garbage;
+    std::string m_lastError;
+    std::int32_t m_flags;
+    std::set<EventHandler*> m_handlers;
+};
+
+}  // namespace quen_3_1
+
+#endif

@@ -1,0 +1,44 @@
+#include "frontend/trace.h"
+
+#include <memory>
+
+#include "frontend/ustring.h"
+
+namespace quen_3_1 {
+namespace internal {
+
+bool quenLogEnabled = false;
+
+namespace {
+
+// Created on first use; at exit the stream goes before its buffer.
+struct DiscardingStream {
+    std::unique_ptr<basic_nullbuf<char>> buffer;
+    std::unique_ptr<std::ostream> stream;
+
+    ~DiscardingStream() {
+        stream.reset();
+        buffer.reset();
+    }
+
+    std::ostream& get() {
+        if (!stream) {
+            buffer = std::make_unique<basic_nullbuf<char>>();
+            stream = std::make_unique<std::ostream>(buffer.get());
+        }
+        return *stream;
+    }
+};
+
+}  // namespace
+
+std::ostream& quenLog() {
+    if (quenLogEnabled) {
+        return ORNA_2_10::strings::tv2::ucout;
+    }
+    static DiscardingStream discarding;
+    return discarding.get();
+}
+
+}  // namespace internal
+}  // namespace quen_3_1

@@ -1,0 +1,52 @@
+#include "options/option_description.h"
+
+#include <utility>
+
+namespace quen_3_1 {
+
+OptionDescription::OptionDescription()
+    : OptionDescription(std::vector<std::string>(), std::string(), std::string(), std::string(), tarvo2::vt_empty,
+                        nullptr) {}
+
+OptionDescription::OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
+                                     std::string description, kel_variant_type_t type, Garbage* garbage)
+    : m_status(0),
+      m_names(std::move(names)),
+      m_group(std::move(group)),
+      m_groupTitle(std::move(groupTitle)),
+      m_description(std::move(description)),
+      m_positional(false),
+      m_hasDefault(false),
+      m_tokenizer(','),
+      m_type(type),
+      m_default(),
+      m_allowedValues(),
+      m_garbage(garbage) {}
+
+IOption* OptionDescription::synonym(char const* name) {
+    m_names.emplace_back(name);
+    return this;
+}
+
+IOption* OptionDescription::allowValue(tarvo2::variant_t const& value) {
+    m_allowedValues.push_back(value);
+    return this;
+}
+
+IOption* OptionDescription::defaultValue(tarvo2::variant_t const& value) {
+    m_default = value;
+    m_hasDefault = true;
+    return this;
+}
+
+IOption* OptionDescription::tokenize(char c) {
+    m_tokenizer = c;
+    return this;
+}
+
+IOption* OptionDescription::positional() {
+    m_positional = true;
+    return this;
+}
+
+}  // namespace quen_3_1

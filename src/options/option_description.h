@@ -1,0 +1,83 @@
+#ifndef QUEN_3_1_OPTIONS_OPTION_DESCRIPTION_H
+#define QUEN_3_1_OPTIONS_OPTION_DESCRIPTION_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "quen_3_1/quen.h"
+
+namespace quen_3_1 {
+
+class Garbage;
+
+// Everything known about one registered option. Hosts refine it through
+// IOption; recognizers, validation, results and help read it.
+class OptionDescription final : public IOption {
+public:
+    // The registry's placeholder: no names, kind vt_empty, no keeper.
+    OptionDescription();
+    OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
+                      std::string description, kel_variant_type_t type, Garbage* garbage);
+    OptionDescription(OptionDescription const& other) = default;
+    OptionDescription& operator=(OptionDescription const& other) = default;
+    ~OptionDescription() override = default;
+
+    IOption* synonym(char const* name) override;
+    IOption* allowValue(tarvo2::variant_t const& value) override;
+    IOption* defaultValue(tarvo2::variant_t const& value) override;
+    IOption* tokenize(char c) override;
+    IOption* positional() override;
+
+    std::int32_t status() const { return m_status; }
+    void setStatus(std::int32_t status) { m_status = status; }
+    std::vector<std::string> const& names() const { return m_names; }
+    std::string const& primaryName() const { return m_names[0]; }
+    std::string const& group() const { return m_group; }
+    std::string const& groupTitle() const { return m_groupTitle; }
+    std::string const& description() const { return m_description; }
+    bool isPositional() const { return m_positional; }
+    bool hasDefault() const { return m_hasDefault; }
+    char tokenizer() const { return m_tokenizer; }
+    kel_variant_type_t type() const { return m_type; }
+    tarvo2::variant_t const& getDefault() const { return m_default; }
+    std::vector<tarvo2::variant_t> const& allowedValues() const { return m_allowedValues; }
+    Garbage* garbage() const { return m_garbage; }
+
+    // Runs op.execute<T>() for the native type of m_type; false for kinds
+    // without a conversion.
+    template <class Op>
+    bool typedOperation(Op& op) const;
+    // The text converted to m_type; vt_empty when it does not convert.
+    tarvo2::variant_t fromString(char const* text, Garbage* keeper) const;
+    // The value rendered through m_type, interned in `keeper`.
+    char const* toString(Garbage* keeper, tarvo2::variant_t const& value) const;
+    // Display name of m_type used in messages and help.
+    std::string getTypeName() const;
+    // Converts `text` and checks it against the allowed values; an allowed
+    // text it abbreviates replaces it. False with `message` set on refusal.
+    bool validate(std::string& text, tarvo2::variant_t& value, std::string& message) const;
+
+private:
+    enum class AbbreviationOutcome { Unique, Ambiguous, NoMatch };
+
+    std::string allowedValuesList() const;
+    AbbreviationOutcome validateAbbreviation(std::string& text, tarvo2::variant_t& value, std::string& message) const;
+
+    std::int32_t m_status;
+    std::vector<std::string> m_names;
+    std::string m_group;
+    std::string m_groupTitle;
+    std::string m_description;
+    bool m_positional;
+    bool m_hasDefault;
+    char m_tokenizer;
+    kel_variant_type_t m_type;
+    tarvo2::variant_t m_default;
+    std::vector<tarvo2::variant_t> m_allowedValues;
+    Garbage* m_garbage;
+};
+
+}  // namespace quen_3_1
+
+#endif

@@ -1,0 +1,95 @@
+#include "options/registered_option_storage.h"
+
+#include <iostream>
+
+#include "frontend/trace.h"
+#include "frontend/ustring.h"
+#include "values/separator_split.h"
+
+namespace quen_3_1 {
+
+IOption* RegisteredOptionStorage::option(char const* names, char const* description, kel_variant_type_t type,
+                                         char const* group) {
+    std::pair<std::string, std::string> const groupEntry = recordGroup(group);
+    m_invalidOption.setStatus(3);
+    std::vector<std::string> list;
+    int const code = split(names, list);
+    if (code != 0) {
+        m_invalidOption.setStatus(code);
+        return &m_invalidOption;
+    }
+    if (validateName(list) == 1) {
+        m_invalidOption.setStatus(1);
+        return &m_invalidOption;
+    }
+    m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, description, type, m_garbage);
+    m_options.back().setStatus(0);
+    return &m_options.back();
+}
+
+// The first title given to a group wins; later ones are ignored.
+std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string const& group) {
+    std::size_t const colon = group.find(':');
+    std::string const name = group.substr(0, colon);
+    for (auto const& entry : m_groups) {
+        if (entry.first == name) {
+            return entry;
+        }
+    }
+    std::string title = colon == std::string::npos ? std::string() : group.substr(colon + 1);
+    m_groups.emplace_back(name, std::move(title));
+    return m_groups.back();
+}
+
+int RegisteredOptionStorage::split(std::string const& text, std::vector<std::string>& out) {
+    splitAtSeparator(text, ',', out);
+    return 0;
+}
+
+int RegisteredOptionStorage::validateName(std::vector<std::string> const& names) {
+    if (names.size() > 3 || (names.size() == 3 && names[2].size() > 2)) {
+        return 1;
+    }
+    unsigned long index = 0;
+    if (findOption(names, index) == 0) {
+        internal::quenLog() << "An option with the same name is already registered: " << names[0] << std::endl;
+        std::cerr << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
+        return 1;
+    }
+    return 0;
+}
+
+bool RegisteredOptionStorage::answersTo(OptionDescription const& option, std::string const& name) const {
+    for (std::string const& own : option.names()) {
+        if (own == name) {
+            return true;
+        }
+    }
+    if (option.type() != tarvo2::vt_bool || name.compare(0, 3, "no-") != 0) {
+        return false;
+    }
+    for (std::string const& own : option.names()) {
+        if (name.compare(3, std::string::npos, own) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
+    for (std::string const& name : names) {
+        for (std::size_t i = 0; i < m_options.size(); ++i) {
+            if (answersTo(m_options[i], name)) {
+                index = i;
+                return 0;
+            }
+        }
+    }
+    return 1;
+}
+
+int RegisteredOptionStorage::isAdded(std::string const& name, unsigned long& index) const {
+    return findOption(std::vector<std::string>{name}, index);
+}
+
+}  // namespace quen_3_1

@@ -1,0 +1,56 @@
+#ifndef QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
+#define QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
+
+#include <deque>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "options/option_description.h"
+
+namespace quen_3_1 {
+
+class Garbage;
+
+// The options of one parser, in registration order, and the help groups in
+// first-seen order. Descriptions never move, so an IOption* handed to the
+// host stays valid for the parser's whole life.
+class RegisteredOptionStorage {
+public:
+    RegisteredOptionStorage() = default;
+    RegisteredOptionStorage(RegisteredOptionStorage const&) = delete;
+    RegisteredOptionStorage& operator=(RegisteredOptionStorage const&) = delete;
+    virtual ~RegisteredOptionStorage() = default;
+
+    // Registers an option; a refused name list returns the detached placeholder
+    // (status 1). The group is recorded even then.
+    virtual IOption* option(char const* names, char const* description, kel_variant_type_t type, char const* group);
+
+    // Comma-separated names, with the quirks of splitAtSeparator. Returns 0.
+    static int split(std::string const& text, std::vector<std::string>& out);
+    // 0 when the list may be registered, 1 when too long, badly formed or clashing.
+    int validateName(std::vector<std::string> const& names);
+    // 0 with `index` set when any of `names` (or "no-" + a boolean's name) is taken.
+    int findOption(std::vector<std::string> const& names, unsigned long& index) const;
+    // findOption for one name.
+    int isAdded(std::string const& name, unsigned long& index) const;
+
+    void setGarbage(Garbage* garbage) { m_garbage = garbage; }
+    std::size_t size() const { return m_options.size(); }
+    OptionDescription const& at(std::size_t index) const { return m_options[index]; }
+    std::vector<std::pair<std::string, std::string>> const& groups() const { return m_groups; }
+    OptionDescription const& invalidOption() const { return m_invalidOption; }
+
+private:
+    std::pair<std::string, std::string> const& recordGroup(std::string const& group);
+    bool answersTo(OptionDescription const& option, std::string const& name) const;
+
+    std::deque<OptionDescription> m_options;
+    std::vector<std::pair<std::string, std::string>> m_groups;
+    Garbage* m_garbage = nullptr;
+    OptionDescription m_invalidOption;
+};
+
+}  // namespace quen_3_1
+
+#endif

@@ -1,0 +1,152 @@
+#include "recognizers/abbreviation_parser.h"
+
+#include <utility>
+
+#include "frontend/trace.h"
+#include "options/registered_option_storage.h"
+
+namespace quen_3_1 {
+
+namespace {
+
+constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
+
+// The typed name: what follows the leading hyphens, up to the first '='.
+std::string typedName(std::string const& argument, std::size_t hyphens) {
+    std::size_t const equals = argument.find('=');
+    std::size_t const end = equals == std::string::npos ? argument.size() : equals;
+    return argument.substr(hyphens, end - hyphens);
+}
+
+}  // namespace
+
+AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
+    : IArgumentParser(handler, garbage, flags), m_optionIndex(kNoOption) {
+    m_name = "AbbreviationParser";
+}
+
+int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) {
+    std::string const& argument = args[0];
+    internal::quenLog() << m_name << ": recognizing argument '" << argument << "'" << std::endl;
+    m_optionIndex = kNoOption;
+    if (argument.size() < 2 || argument[0] != '-') {
+        return 1;
+    }
+    std::size_t const hyphens = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
+    std::string const typed = typedName(argument, hyphens);
+    std::vector<DecomposedName> names;
+    makeOptionNamesList(storage, names);
+    std::vector<NameMatch> matches;
+    makeNameMatch(matches, DecomposedName(typed), names);
+    DecomposedName best;
+    int const found = findBest(matches, best, message);
+    if (found == 2) {
+        internal::quenLog() << m_name << ": failed to get best match for '" << typed << "' in argument '" << argument
+                            << "':" << message << std::endl;
+        return 0;
+    }
+    if (found != 0) {
+        return 1;
+    }
+    std::string const bestName = best.getName();
+    internal::quenLog() << m_name << ": best match option for '" << typed << "' in argument '" << argument << "' is '"
+                        << bestName << "'" << std::endl;
+    unsigned long index = 0;
+    if (storage.isAdded(bestName, index) != 0) {
+        return 1;
+    }
+    m_optionIndex = index;
+    return 0;
+}
+
+int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
+                              std::string& message) {
+    std::string argument = args[0];
+    internal::quenLog() << m_name << ": parsing argument '" << argument << "'" << std::endl;
+    std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
+    std::string const typed = typedName(argument, hyphens);
+    if (m_bestMatches.size() > 1) {
+        message = "Ambiguous option '" + typed + "'" + formatTokenMessage(argument) +
+                  ", could be: " + listNames(m_bestMatches);
+        return 2;
+    }
+    OptionDescription const& option = storage.at(m_optionIndex);
+    internal::quenLog() << m_name << ": detected option: '" << option.primaryName() << "'" << std::endl;
+    std::size_t consumed = 1;
+    std::string value;
+    std::size_t const equals = argument.find('=');
+    if (equals != std::string::npos) {
+        value = argument.substr(equals + 1);
+        internal::quenLog() << m_name << ": value from the same argument taken: '" << value << "'" << std::endl;
+    }
+    int const code = decideValue(args, option, value, consumed, message);
+    if (code != 0) {
+        return code;
+    }
+    m_handler->onOptionParse(option.primaryName().c_str());
+    internal::quenLog() << m_name << ": sent event on option parsed" << std::endl;
+    int const stored = parseValueAndAddOption(value, message, option, args, collector);
+    if (stored != 0) {
+        return stored;
+    }
+    for (std::size_t i = 0; i < consumed; ++i) {
+        internal::quenLog() << m_name << ": removing argument: '" << args[0] << "'" << std::endl;
+        args.popFront();
+    }
+    return 0;
+}
+
+// No-value options refuse a value, booleans take "1"/"0" from the matched
+// name, and other kinds fall back to the next argument.
+int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const& option, std::string& value,
+                                    std::size_t& consumed, std::string& message) {
+    std::string argument = args[0];
+    if (option.type() == tarvo2::vt_empty) {
+        if (!value.empty()) {
+            return fail(message, "Option '" + option.primaryName() + "'does not requires a value" +
+                                     formatTokenMessage(argument));
+        }
+        return 0;
+    }
+    if (option.type() != tarvo2::vt_bool) {
+        return value.empty() ? valueFromNextArgument(args, option, value, consumed, message) : 0;
+    }
+    if (!value.empty()) {
+        return fail(message, "Option '" + option.primaryName() + "' is boolean and should be declared in form " +
+                                 "'--option' or '--no-option'" + formatTokenMessage(argument));
+    }
+    // The matched name decides, so a boolean whose own name starts with "no-" gives "0".
+    value = m_bestMatches.front().name.getName().compare(0, 3, "no-") == 0 ? "0" : "1";
+    return 0;
+}
+
+// A next argument that begins with '-' is refused even when it is a negative
+// number: "--num=-5" is the way to give one.
+int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
+                                              std::size_t& consumed, std::string& message) {
+    std::string argument = args[0];
+    internal::quenLog() << m_name << ": no value in the same argument, looking next" << std::endl;
+    if (args.size() == 1) {
+        return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
+    }
+    value = args[1];
+    if (!value.empty() && value[0] == '-') {
+        return fail(message, "Option '" + option.primaryName() + "received value from the next argument: '" + value +
+                                 "', but it seems to be an option. Use '-option=value' declaration form" +
+                                 " or make sure that value is not missed");
+    }
+    consumed = 2;
+    internal::quenLog() << m_name << ": got value from the next argument: '" << value << "'" << std::endl;
+    if (value.empty()) {
+        return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
+    }
+    return 0;
+}
+
+int AbbreviationParser::fail(std::string& message, std::string text) {
+    message = std::move(text);
+    internal::quenLog() << m_name << ": " << message << std::endl;
+    return 2;
+}
+
+}  // namespace quen_3_1

@@ -1,0 +1,62 @@
+#ifndef QUEN_3_1_RECOGNIZERS_ABBREVIATION_PARSER_H
+#define QUEN_3_1_RECOGNIZERS_ABBREVIATION_PARSER_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "recognizers/argument_parser.h"
+#include "recognizers/decomposed_name.h"
+
+namespace quen_3_1 {
+
+// The recognizer of named options: -name, --name, --name=value, --name value,
+// and --no-name for booleans, with every part of a name abbreviable.
+class AbbreviationParser final : public IArgumentParser {
+public:
+    // A candidate name that the typed name matches, with its score.
+    struct NameMatch {
+        bool sameLength;
+        std::int32_t score;
+        DecomposedName name;
+    };
+
+    AbbreviationParser(EventHandler* handler, Garbage* garbage, std::int32_t flags);
+
+    int recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) override;
+    int parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
+              std::string& message) override;
+    int getPriority() override { return -10; }
+
+    // Every registered name in registration order, each boolean's "no-" form
+    // right after its name. Appends to `names`.
+    void makeOptionNamesList(RegisteredOptionStorage& storage, std::vector<DecomposedName>& names);
+    // Appends a record for every candidate the typed name matches: 2 per
+    // equal part, 1 per proper prefix, no match on any other part.
+    void makeNameMatch(std::vector<NameMatch>& matches, DecomposedName const& typed,
+                       std::vector<DecomposedName> const& names);
+    // 0 with `best` set for a unique best same-length match, 1 when there is
+    // none, 2 with `message` set when the best score is tied.
+    int findBest(std::vector<NameMatch> const& matches, DecomposedName& best, std::string& message);
+
+    std::size_t optionIndex() const { return m_optionIndex; }
+    std::vector<NameMatch> const& bestMatches() const { return m_bestMatches; }
+
+    // 'a', 'b', 'c': the names of `matches` as messages list them.
+    static std::string listNames(std::vector<NameMatch> const& matches);
+
+private:
+    int decideValue(ArgumentList& args, OptionDescription const& option, std::string& value, std::size_t& consumed,
+                    std::string& message);
+    int valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
+                              std::size_t& consumed, std::string& message);
+    int fail(std::string& message, std::string text);
+
+    std::size_t m_optionIndex;
+    std::vector<NameMatch> m_bestMatches;
+};
+
+}  // namespace quen_3_1
+
+#endif

@@ -1,0 +1,75 @@
+#include "recognizers/argument_parser.h"
+
+#include "frontend/trace.h"
+#include "options/option_description.h"
+#include "results/result_collector.h"
+#include "values/separator_split.h"
+
+namespace quen_3_1 {
+
+std::int32_t IArgumentParser::m_idx = 1;
+
+IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
+    : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags) {}
+
+std::string IArgumentParser::formatTokenMessage(std::string& token) { return " in argument: '" + token + "'"; }
+
+int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
+                                            ArgumentList& args, IResultCollector* collector) {
+    OptionData data;
+    data.m_positions.push_back(takeNumber());
+    if (!value.empty()) {
+        internal::quenLog() << m_name << ": adding values to result container:" << std::endl;
+        char const tokenizer = option.tokenizer();
+        if (tokenizer != 0) {
+            internal::quenLog() << m_name << ": using tokenizer on char: '" << tokenizer << "'" << std::endl;
+            std::vector<std::string> pieces;
+            splitAtSeparator(value, tokenizer, pieces);
+            for (std::string& piece : pieces) {
+                internal::quenLog() << m_name << ": value is: '" << piece << "'" << std::endl;
+                int const code = addValue(piece, value, message, option, args, data);
+                if (code != 0) {
+                    return code;
+                }
+                internal::quenLog() << m_name << ": sent event on value parsed, option: '" << option.primaryName()
+                                    << "', value: '" << piece << "'" << std::endl;
+            }
+        } else {
+            internal::quenLog() << m_name << ": not using tokenizer" << std::endl;
+            std::string whole = value;
+            int const code = addValue(whole, value, message, option, args, data);
+            if (code != 0) {
+                return code;
+            }
+        }
+    }
+    if (collector != nullptr) {
+        collector->store(option, data);
+    }
+    internal::quenLog() << m_name << ": stored option to result container." << std::endl;
+    return 0;
+}
+
+// Validates one piece, numbers it, lets the handlers veto it and keeps it.
+int IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
+                              OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+    tarvo2::variant_t converted;
+    std::string reason;
+    if (!option.validate(piece, converted, reason)) {
+        message = "Value validation problem in argument '" + args[0] + "': " + reason;
+        internal::quenLog() << m_name << ": " << message << std::endl;
+        return 2;
+    }
+    std::int32_t const number = takeNumber();
+    Value const event{piece.c_str(), 0, number, converted};
+    if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
+        message = "Value '" + whole + "' is not valid for option '" + option.primaryName() + "' in argument '" +
+                  args[0] + "'";
+        internal::quenLog() << m_name << message << " One of the handler signaled the value is not valid." << std::endl;
+        return 1;
+    }
+    data.m_values.emplace_back(std::make_pair(piece, converted), number);
+    return 0;
+}
+
+}  // namespace quen_3_1

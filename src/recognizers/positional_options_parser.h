@@ -1,0 +1,25 @@
+#ifndef QUEN_3_1_RECOGNIZERS_POSITIONAL_OPTIONS_PARSER_H
+#define QUEN_3_1_RECOGNIZERS_POSITIONAL_OPTIONS_PARSER_H
+
+#include <cstdint>
+#include <string>
+
+#include "recognizers/argument_parser.h"
+
+namespace quen_3_1 {
+
+// The recognizer of last resort: plain arguments become values of the first
+// option declared positional.
+class PositionalOptionsParser final : public IArgumentParser {
+public:
+    PositionalOptionsParser(EventHandler* handler, Garbage* garbage, std::int32_t flags);
+
+    int recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) override;
+    int parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
+              std::string& message) override;
+    int getPriority() override { return -100; }
+};
+
+}  // namespace quen_3_1
+
+#endif

@@ -1,0 +1,77 @@
+#ifndef QUEN_3_1_RESULTS_PARSE_RESULT_H
+#define QUEN_3_1_RESULTS_PARSE_RESULT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quen_3_1/quen.h"
+#include "results/option_data.h"
+#include "results/result_collector.h"
+#include "values/garbage.h"
+
+namespace quen_3_1 {
+
+class RegisteredOptionStorage;
+
+// The result of one or more parses: option data keyed by every name of every
+// stored option, plain arguments, and the cursors of the current query.
+class ParseResult final : public IParseResult, public IResultCollector {
+public:
+    ParseResult();
+    ParseResult(ParseResult const&) = delete;
+    ParseResult& operator=(ParseResult const&) = delete;
+
+    void destroy() override;
+    bool present(char const* name, int from, int to) override;
+    Value get(char const* name, int from, int to) override;
+    Value next(char const* name) override;
+    int nextPosition() override;
+    int getFirstArgument(char const** text) override;
+    int getNextArgument(char const** text) override;
+    ~ParseResult() override = default;
+
+    // The first store of an option replaces its data under every name; later
+    // stores append. Returns 0.
+    int store(OptionDescription const& option, OptionData const& data) override;
+    // Sets the default entry of every option that has one, one sequence number
+    // per name. Returns 0 and never writes `message`.
+    int applyDefault(RegisteredOptionStorage& storage, std::string& message);
+    // Keeps a plain argument with its sequence number.
+    void appendArgument(std::string const& text, std::int32_t number);
+
+    // Query internals; codes 0 found, 1 not found, 3 standard exception.
+    int get(std::string const& name, char const** text, tarvo2::variant_t& value, int from, int to, int& number);
+    int next(std::string const& name, char const** text, tarvo2::variant_t& value, int& number);
+    int getFirstArgument(std::string& text);
+    int getNextArgument(std::string& text);
+
+    std::map<std::string, OptionData> const& options() const { return m_options; }
+    std::vector<std::pair<std::string, std::int32_t>> const& arguments() const { return m_arguments; }
+
+private:
+    using OptionMap = std::map<std::string, OptionData>;
+
+    bool hasCurrent() const { return m_current != m_options.end(); }
+    int readDefault(char const** text, tarvo2::variant_t& value, int& number);
+    int readNext(char const** text, tarvo2::variant_t& value, int& number);
+    int nextValue(char const** text, tarvo2::variant_t& value, int& number);
+    int nextOccurrence(int& number);
+
+    OptionMap m_options;
+    std::size_t m_valueCursor;
+    std::size_t m_positionCursor;
+    std::int32_t m_from;
+    std::int32_t m_to;
+    OptionMap::iterator m_current;
+    Garbage m_garbage;
+    std::vector<std::pair<std::string, std::int32_t>> m_arguments;
+    std::size_t m_argumentCursor;
+};
+
+}  // namespace quen_3_1
+
+#endif

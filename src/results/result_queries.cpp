@@ -1,0 +1,219 @@
+// Read access to a result. Queries move the cursors and the range of the
+// current option only; every text handed out is kept by the result.
+#include <exception>
+
+#include "results/parse_result.h"
+
+namespace quen_3_1 {
+
+namespace {
+
+constexpr std::int32_t kNoNumber = 0x7fffffff;
+
+Value notFound(std::int32_t status) { return Value{nullptr, status, kNoNumber, tarvo2::variant_t()}; }
+
+bool hasDefault(OptionData const& data) { return !data.m_default.first.first.empty(); }
+
+bool onlyDefault(OptionData const& data) { return data.m_positions.empty() && hasDefault(data); }
+
+}  // namespace
+
+int ParseResult::get(std::string const& name, char const** text, tarvo2::variant_t& value, int from, int to,
+                     int& number) {
+    try {
+        m_from = from;
+        m_to = to;
+        m_current = m_options.find(name);
+        if (!hasCurrent()) {
+            return 1;
+        }
+        m_valueCursor = 0;
+        m_positionCursor = 0;
+        OptionData const& data = m_current->second;
+        if (onlyDefault(data)) {
+            return readDefault(text, value, number);
+        }
+        std::vector<std::int32_t> const& positions = data.m_positions;
+        while (m_positionCursor < positions.size() &&
+               !(from <= positions[m_positionCursor] && positions[m_positionCursor] < to)) {
+            ++m_positionCursor;
+        }
+        if (m_positionCursor == positions.size()) {
+            return 1;
+        }
+        return text == nullptr ? 0 : readNext(text, value, number);
+    } catch (std::exception const&) {
+        return 3;
+    }
+}
+
+int ParseResult::next(std::string const& /*name*/, char const** text, tarvo2::variant_t& value, int& number) {
+    try {
+        return readNext(text, value, number);
+    } catch (std::exception const&) {
+        return 3;
+    }
+}
+
+int ParseResult::readDefault(char const** text, tarvo2::variant_t& value, int& number) {
+    ValueEntry const& entry = m_current->second.m_default;
+    if (text != nullptr) {
+        *text = m_garbage.keep(entry.first.first);
+    }
+    value = entry.first.second;
+    number = entry.second;
+    return 0;
+}
+
+int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& number) {
+    if (!hasCurrent()) {
+        return 1;
+    }
+    OptionData const& data = m_current->second;
+    if (onlyDefault(data)) {
+        // present() arms a single delivery of the default by setting both bounds to the maximum.
+        if (m_from != kNoNumber || m_to != kNoNumber) {
+            return 1;
+        }
+        readDefault(text, value, number);
+        m_from = 0;
+        m_to = kNoNumber;
+        return 0;
+    }
+    if (!data.m_values.empty()) {
+        return nextValue(text, value, number);
+    }
+    return nextOccurrence(number);
+}
+
+// The upper bound is included for values, unlike for occurrences.
+int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& number) {
+    std::vector<ValueEntry> const& values = m_current->second.m_values;
+    while (m_valueCursor < values.size() && values[m_valueCursor].second < m_from) {
+        ++m_valueCursor;
+    }
+    if (m_valueCursor == values.size() || values[m_valueCursor].second > m_to) {
+        return 1;
+    }
+    ValueEntry const& entry = values[m_valueCursor++];
+    if (text != nullptr) {
+        *text = m_garbage.keep(entry.first.first);
+    }
+    value = entry.first.second;
+    number = entry.second;
+    return 0;
+}
+
+// Options without values yield their occurrence numbers, past the range too.
+int ParseResult::nextOccurrence(int& number) {
+    std::vector<std::int32_t> const& positions = m_current->second.m_positions;
+    if (m_positionCursor >= positions.size()) {
+        return 1;
+    }
+    number = positions[m_positionCursor++];
+    return 0;
+}
+
+bool ParseResult::present(char const* name, int from, int to) {
+    std::string const key(name);
+    tarvo2::variant_t scratchValue;
+    int scratchNumber = 0;
+    int const code = get(key, nullptr, scratchValue, from, to, scratchNumber);
+    if (code == 0 && onlyDefault(m_current->second)) {
+        m_from = kNoNumber;
+        m_to = kNoNumber;
+    }
+    return code == 0;
+}
+
+Value ParseResult::get(char const* name, int from, int to) {
+    try {
+        std::string const key(name);
+        char const* text = nullptr;
+        Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
+        int const code = get(key, &text, result.m_value, from, to, result.m_index);
+        if (code != 0) {
+            return notFound(code);
+        }
+        result.m_text = text;
+        return result;
+    } catch (std::exception const&) {
+        return notFound(1);
+    }
+}
+
+Value ParseResult::next(char const* name) {
+    try {
+        std::string const key(name);
+        char const* text = nullptr;
+        Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
+        int const code = next(key, &text, result.m_value, result.m_index);
+        if (code != 0) {
+            return notFound(code);
+        }
+        result.m_text = text;
+        return result;
+    } catch (std::exception const&) {
+        return notFound(1);
+    }
+}
+
+int ParseResult::nextPosition() {
+    if (!hasCurrent()) {
+        return kNoNumber;
+    }
+    std::vector<std::int32_t> const& positions = m_current->second.m_positions;
+    if (m_positionCursor >= positions.size()) {
+        return kNoNumber;
+    }
+    return positions[m_positionCursor++];
+}
+
+int ParseResult::getFirstArgument(std::string& text) {
+    if (m_arguments.empty()) {
+        return 1;
+    }
+    m_argumentCursor = 0;
+    return getNextArgument(text);
+}
+
+int ParseResult::getNextArgument(std::string& text) {
+    if (m_argumentCursor >= m_arguments.size()) {
+        return 1;
+    }
+    text = m_arguments[m_argumentCursor++].first;
+    return 0;
+}
+
+int ParseResult::getFirstArgument(char const** text) {
+    std::string argument;
+    int const code = getFirstArgument(argument);
+    if (code == 0) {
+        *text = m_garbage.keep(argument);
+    }
+    return code;
+}
+
+int ParseResult::getNextArgument(char const** text) {
+    std::string argument;
+    int const code = getNextArgument(argument);
+    if (code == 0) {
+        *text = m_garbage.keep(argument);
+    }
+    return code;
+}
+
+Value getLastValue(IParseResult* result, char const* name, int from, int to) {
+    Value answer = notFound(1);
+    if (result == nullptr || name == nullptr) {
+        return answer;
+    }
+    Value current = result->get(name, from, to);
+    while (current.m_status == 0) {
+        answer = current;
+        current = result->next(name);
+    }
+    return answer;
+}
+
+}  // namespace quen_3_1

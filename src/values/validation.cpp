@@ -1,0 +1,71 @@
+// Checks one value text of an option against its kind and allowed values.
+// The message texts are read by hosts and kept word for word.
+#include <string>
+
+#include "options/option_description.h"
+#include "values/garbage.h"
+
+namespace quen_3_1 {
+
+bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, std::string& message) const {
+    value = fromString(text.c_str(), m_garbage);
+    if (value.m_type == tarvo2::vt_empty) {
+        message = "Option '" + primaryName() + "' can not parse '" + text + "' value, requires a type '" +
+                  getTypeName() + "' here.";
+        return false;
+    }
+    if (m_allowedValues.empty()) {
+        return true;
+    }
+    for (tarvo2::variant_t const& allowed : m_allowedValues) {
+        if (value == allowed) {
+            return true;
+        }
+    }
+    if (m_type == tarvo2::vt_str) {
+        AbbreviationOutcome const outcome = validateAbbreviation(text, value, message);
+        if (outcome != AbbreviationOutcome::NoMatch) {
+            return outcome == AbbreviationOutcome::Unique;
+        }
+    }
+    message = "Option '" + primaryName() + "' does not allow value '" + text +
+              "'. Possible values follows: " + allowedValuesList();
+    return false;
+}
+
+// A unique beginning of an allowed text stands for it; several are ambiguous.
+OptionDescription::AbbreviationOutcome OptionDescription::validateAbbreviation(std::string& text,
+                                                                               tarvo2::variant_t& value,
+                                                                               std::string& message) const {
+    int matches = 0;
+    std::string matched;
+    for (tarvo2::variant_t const& allowed : m_allowedValues) {
+        std::string const allowedText(allowed.as<char const*>());
+        if (allowedText.size() >= text.size() && allowedText.compare(0, text.size(), text) == 0) {
+            ++matches;
+            matched = allowedText;
+            value = tarvo2::variant_t(m_garbage->keep(matched));
+        }
+    }
+    if (matches == 1) {
+        text = matched;
+        return AbbreviationOutcome::Unique;
+    }
+    if (matches > 1) {
+        message = "Ambiguous value for option '" + primaryName() + "'. Possible values follows: " + allowedValuesList();
+        return AbbreviationOutcome::Ambiguous;
+    }
+    return AbbreviationOutcome::NoMatch;
+}
+
+std::string OptionDescription::allowedValuesList() const {
+    std::string list;
+    for (std::size_t i = 0; i < m_allowedValues.size(); ++i) {
+        list += "'";
+        list += toString(m_garbage, m_allowedValues[i]);
+        list += i + 1 < m_allowedValues.size() ? "', " : "'";
+    }
+    return list;
+}
+
+}  // namespace quen_3_1
