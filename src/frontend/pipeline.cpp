@@ -57,7 +57,9 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
             }
             continue;
         }
-        if ((m_flags & FlagUnknownIsError) != 0 && onUknownArgument(args[0].c_str())) {
+        // Handlers hear of every unclaimed argument, whether or not it is an error.
+        bool const unknown = onUknownArgument(args[0].c_str());
+        if ((m_flags & FlagUnknownIsError) != 0 && unknown) {
             error = "Unknown option: " + args[0];
             return 2;
         }
