@@ -32,7 +32,8 @@ public:
     std::int32_t status() const { return m_status; }
     void setStatus(std::int32_t status) { m_status = status; }
     std::vector<std::string> const& names() const { return m_names; }
-    std::string const& primaryName() const { return m_names[0]; }
+    // Throws std::out_of_range for an option registered without names.
+    std::string const& primaryName() const { return m_names.at(0); }
     std::string const& group() const { return m_group; }
     std::string const& groupTitle() const { return m_groupTitle; }
     std::string const& description() const { return m_description; }

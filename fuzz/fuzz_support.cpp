@@ -1,0 +1,120 @@
+#include "fuzz_support.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace quen_fuzz {
+
+namespace {
+
+long g_outstanding = 0;
+
+void countingRelease(void* p) {
+    --g_outstanding;
+    std::free(p);
+}
+
+void* countingAllocate(std::size_t bytes) {
+    ++g_outstanding;
+    return std::malloc(bytes);
+}
+
+constexpr int kNoNumber = 0x7fffffff;
+constexpr int kLoopLimit = 1000000;
+
+void walkValues(quen_3_1::IParseResult* result, std::string const& name, HandedOut& texts) {
+    quen_3_1::Value value = result->get(name.c_str());
+    int previous = -1;
+    int steps = 0;
+    while (value.m_status == 0) {
+        texts.keep(value.m_text);
+        check(value.m_index > previous, "sequence numbers grow along get/next");
+        previous = value.m_index;
+        check(++steps < kLoopLimit, "get/next loop ends");
+        value = result->next(name.c_str());
+    }
+    check(value.m_status == 1 || value.m_status == 3, "a finished iteration reports 1 or 3");
+    check(value.m_text == nullptr && value.m_index == kNoNumber, "not-found value has no text and no number");
+}
+
+void walkPositions(quen_3_1::IParseResult* result, std::string const& name) {
+    if (!result->present(name.c_str())) {
+        check(result->nextPosition() == kNoNumber, "an option absent from the range has no positions");
+        return;
+    }
+    int previous = -1;
+    int steps = 0;
+    for (int position = result->nextPosition(); position != kNoNumber; position = result->nextPosition()) {
+        check(position > previous, "occurrence numbers grow");
+        previous = position;
+        check(++steps < kLoopLimit, "nextPosition loop ends");
+    }
+}
+
+void walkArguments(quen_3_1::IParseResult* result, HandedOut& texts) {
+    char const* text = nullptr;
+    int steps = 0;
+    for (int code = result->getFirstArgument(&text); code == 0; code = result->getNextArgument(&text)) {
+        texts.keep(text);
+        check(++steps < kLoopLimit, "argument loop ends");
+    }
+}
+
+}  // namespace
+
+void check(bool condition, char const* what) {
+    if (!condition) {
+        std::fprintf(stderr, "invariant violated: %s\n", what);
+        std::abort();
+    }
+}
+
+void installCountingHooks() {
+    tarvo2::variant_t::m_mem.release = &countingRelease;
+    tarvo2::variant_t::m_mem.allocate = &countingAllocate;
+}
+
+long outstandingAllocations() { return g_outstanding; }
+
+void HandedOut::keep(char const* text) {
+    if (text != nullptr) {
+        m_texts.push_back(text);
+    }
+}
+
+void HandedOut::verifyReadable() const {
+    std::size_t total = 0;
+    for (char const* text : m_texts) {
+        total += std::strlen(text);
+    }
+    check(total < (static_cast<std::size_t>(1) << 40), "texts are readable");
+}
+
+bool isLibraryCode(int code) { return code >= 0 && code <= 4; }
+
+void walkResult(quen_3_1::IParseResult* result, std::vector<std::string> const& names, HandedOut& texts) {
+    for (std::string const& name : names) {
+        walkValues(result, name, texts);
+        walkPositions(result, name);
+        quen_3_1::Value last = quen_3_1::getLastValue(result, name.c_str());
+        texts.keep(last.m_text);
+        check((last.m_status == 0) == (result->get(name.c_str()).m_status == 0), "getLastValue agrees with get");
+    }
+    walkArguments(result, texts);
+}
+
+std::vector<std::string> splitArguments(std::uint8_t const* data, std::size_t size) {
+    std::vector<std::string> args(1);
+    for (std::size_t i = 0; i < size; ++i) {
+        char const c = static_cast<char>(data[i]);
+        if (c == '\0' || c == '\n') {
+            args.emplace_back();
+        } else {
+            args.back() += c;
+        }
+    }
+    return args;
+}
+
+}  // namespace quen_fuzz
