@@ -1,0 +1,46 @@
+# Runs quen-demo for one case and compares exit code, standard output and
+# standard error with what the case expects, each as a whole.
+# Inputs: DEMO (the executable), CASE, EXPECTED_DIR (holds the expected texts).
+# The working directory holds sample.opts.
+cmake_minimum_required(VERSION 3.25)
+
+set(expected_code 0)
+set(expected_stderr "")
+if(CASE STREQUAL "PrintsValuesInCommandLineOrder")
+  # Abbreviated names, a short third name, a synonym, --no- forms, a value
+  # abbreviation, a list, a hexadecimal number, a value from the next
+  # argument, an options file, plain files and the terminator.
+  set(arguments
+    --src=photos -t /mnt/backup --mode=mi --l-f=sync.log --no-p-t -v --no-comp
+    --exclude=*.tmp,*.bak --skip=cache --b-s=0x20000 --retries 5 --bw-lim=12.5
+    --options-file=sample.opts holiday.jpg notes.txt -- --dry-run extra)
+  file(READ "${EXPECTED_DIR}/expected_run.txt" expected_stdout)
+elseif(CASE STREQUAL "UnknownOptionFailsWithCodeTwo")
+  set(arguments -v --frobnicate notes.txt)
+  set(expected_code 2)
+  set(expected_stdout "")
+  set(expected_stderr "Unknown option: --frobnicate\n")
+elseif(CASE STREQUAL "HelpListsVisibleGroups")
+  set(arguments --help)
+  file(READ "${EXPECTED_DIR}/expected_help.txt" expected_stdout)
+else()
+  message(FATAL_ERROR "unknown case '${CASE}'")
+endif()
+
+execute_process(COMMAND "${DEMO}" ${arguments}
+  RESULT_VARIABLE code OUTPUT_VARIABLE stdout ERROR_VARIABLE stderr)
+
+set(failures "")
+if(NOT code STREQUAL expected_code)
+  string(APPEND failures "exit code: expected ${expected_code}, got ${code}\n")
+endif()
+if(NOT stdout STREQUAL expected_stdout)
+  string(APPEND failures "standard output differs.\n--- expected\n${expected_stdout}--- got\n${stdout}---\n")
+endif()
+if(NOT stderr STREQUAL expected_stderr)
+  string(APPEND failures "standard error differs.\n--- expected\n${expected_stderr}--- got\n${stderr}---\n")
+endif()
+if(failures)
+  message(FATAL_ERROR "${CASE}:\n${failures}")
+endif()
+message(STATUS "${CASE}: exit code ${code}, output as expected")
