@@ -1,0 +1,491 @@
+#include "option_table.h"
+
+#include <cctype>
+#include <cerrno>
+#include <cstdlib>
+#include <limits>
+#include <map>
+
+namespace quenopt {
+
+namespace {
+
+struct KindName {
+    char const* name;
+    tarvo2::kel_variant_type_t kind;
+};
+
+KindName const kKinds[] = {
+    {"bool", tarvo2::vt_bool},   {"int", tarvo2::vt_int},       {"uint", tarvo2::vt_uint},
+    {"int64", tarvo2::vt_int64}, {"uint64", tarvo2::vt_uint64}, {"double", tarvo2::vt_double},
+    {"string", tarvo2::vt_str},  {"none", tarvo2::vt_empty},
+};
+
+std::string trim(std::string const& text) {
+    std::string::size_type first = text.find_first_not_of(" \t");
+    if (first == std::string::npos) {
+        return std::string();
+    }
+    std::string::size_type last = text.find_last_not_of(" \t");
+    return text.substr(first, last - first + 1);
+}
+
+std::vector<std::string> splitAt(std::string const& text, char separator) {
+    std::vector<std::string> pieces;
+    std::string::size_type start = 0;
+    while (true) {
+        std::string::size_type end = text.find(separator, start);
+        if (end == std::string::npos) {
+            pieces.push_back(text.substr(start));
+            return pieces;
+        }
+        pieces.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+}
+
+std::vector<std::string> splitBlanks(std::string const& text) {
+    std::vector<std::string> words;
+    std::string::size_type at = 0;
+    while (true) {
+        std::string::size_type first = text.find_first_not_of(" \t", at);
+        if (first == std::string::npos) {
+            return words;
+        }
+        std::string::size_type last = text.find_first_of(" \t", first);
+        if (last == std::string::npos) {
+            last = text.size();
+        }
+        words.push_back(text.substr(first, last - first));
+        at = last;
+    }
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool isNameCharacter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || isDigit(c) || c == '-' || c == '_';
+}
+
+// Names become both command-line names and parts of shell variable names, so
+// they are kept to letters, digits, '-' and '_', starting with a letter or digit.
+bool checkName(std::string const& name, std::string& why) {
+    if (name.empty()) {
+        why = "empty name";
+        return false;
+    }
+    for (char c : name) {
+        if (!isNameCharacter(c)) {
+            why = "name '" + name + "' holds '" + std::string(1, c) + "'; names use letters, digits, '-' and '_'";
+            return false;
+        }
+    }
+    if (name[0] == '-' || name[0] == '_') {
+        why = "name '" + name + "' must begin with a letter or a digit";
+        return false;
+    }
+    return true;
+}
+
+bool parseSigned(std::string const& text, long long low, long long high, long long& out) {
+    if (text.empty() || !(isDigit(text[0]) || text[0] == '-' || text[0] == '+')) {
+        return false;
+    }
+    char* end = nullptr;
+    errno = 0;
+    long long value = std::strtoll(text.c_str(), &end, 10);
+    if (errno != 0 || *end != '\0' || value < low || value > high) {
+        return false;
+    }
+    out = value;
+    return true;
+}
+
+bool parseUnsigned(std::string const& text, int base, unsigned long long high, unsigned long long& out) {
+    if (text.empty()) {
+        return false;
+    }
+    for (char c : text) {
+        if (!(isDigit(c) || (base == 16 && std::isxdigit(static_cast<unsigned char>(c))))) {
+            return false;
+        }
+    }
+    char* end = nullptr;
+    errno = 0;
+    unsigned long long value = std::strtoull(text.c_str(), &end, base);
+    if (errno != 0 || *end != '\0' || value > high) {
+        return false;
+    }
+    out = value;
+    return true;
+}
+
+// Converts a default or allowed value written in the table to the option's kind.
+bool convertValue(TableOption const& option, std::string const& text, tarvo2::variant_t& out) {
+    switch (option.kind) {
+        case tarvo2::vt_bool:
+            if (text == "1" || text == "true") {
+                out = tarvo2::variant_t(true);
+                return true;
+            }
+            if (text == "0" || text == "false") {
+                out = tarvo2::variant_t(false);
+                return true;
+            }
+            return false;
+        case tarvo2::vt_int: {
+            long long value = 0;
+            if (!parseSigned(text, std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), value)) {
+                return false;
+            }
+            out = tarvo2::variant_t(static_cast<int>(value));
+            return true;
+        }
+        case tarvo2::vt_uint: {
+            unsigned long long value = 0;
+            if (!parseUnsigned(text, 10, std::numeric_limits<unsigned int>::max(), value)) {
+                return false;
+            }
+            out = tarvo2::variant_t(static_cast<unsigned int>(value));
+            return true;
+        }
+        case tarvo2::vt_int64: {
+            long long value = 0;
+            if (!parseSigned(text, std::numeric_limits<long long>::min(), std::numeric_limits<long long>::max(),
+                             value)) {
+                return false;
+            }
+            out = tarvo2::variant_t(value);
+            return true;
+        }
+        case tarvo2::vt_uint64: {
+            unsigned long long value = 0;
+            bool hex = text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X');
+            if (!parseUnsigned(hex ? text.substr(2) : text, hex ? 16 : 10,
+                               std::numeric_limits<unsigned long long>::max(), value)) {
+                return false;
+            }
+            out = tarvo2::variant_t(value);
+            return true;
+        }
+        case tarvo2::vt_double: {
+            if (text.empty() || text[0] == ' ' || text[0] == '\t') {
+                return false;
+            }
+            char* end = nullptr;
+            errno = 0;
+            double value = std::strtod(text.c_str(), &end);
+            if (errno != 0 || *end != '\0') {
+                return false;
+            }
+            out = tarvo2::variant_t(value);
+            return true;
+        }
+        case tarvo2::vt_str:
+            out = tarvo2::variant_t(text.c_str());
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Everything the checks of later lines need to know about earlier ones.
+struct TableState {
+    std::map<std::string, int> names;      // command-line names (with "no-" forms of booleans) -> line
+    std::map<std::string, int> variables;  // shell variables -> line
+    int positionalLine = 0;
+};
+
+class LineReader {
+public:
+    LineReader(std::string const& source, int line, std::string const& prefix, TableState& state)
+        : m_source(source), m_line(line), m_prefix(prefix), m_state(state) {}
+
+    bool read(std::string const& text, TableOption& option, std::string& error) {
+        option.line = m_line;
+        // The description is the last field and may itself hold '|'.
+        std::vector<std::string> fields;
+        std::string::size_type start = 0;
+        while (fields.size() < 4) {
+            std::string::size_type bar = text.find('|', start);
+            if (bar == std::string::npos) {
+                break;
+            }
+            fields.push_back(trim(text.substr(start, bar - start)));
+            start = bar + 1;
+        }
+        fields.push_back(trim(text.substr(start)));
+        if (fields.size() < 2) {
+            return fail("kind", "missing; a line needs at least 'names | kind'", error);
+        }
+        fields.resize(5);
+        if (!readNames(fields[0], option, error) || !readKind(fields[1], option, error) ||
+            !readAttributes(fields[3], option, error) || !claimNames(option, error)) {
+            return false;
+        }
+        option.group = fields[2];
+        option.description = fields[4];
+        return true;
+    }
+
+private:
+    bool fail(char const* field, std::string const& why, std::string& error) const {
+        error = m_source + ":" + std::to_string(m_line) + ": field '" + field + "': " + why;
+        return false;
+    }
+
+    bool readKind(std::string const& text, TableOption& option, std::string& error) const {
+        if (text.empty()) {
+            return fail("kind", "missing", error);
+        }
+        for (KindName const& kind : kKinds) {
+            if (text == kind.name) {
+                option.kindName = text;
+                option.kind = kind.kind;
+                return true;
+            }
+        }
+        return fail("kind",
+                    "unknown kind '" + text + "'; kinds are bool, int, uint, int64, uint64, double, string and none",
+                    error);
+    }
+
+    bool readNames(std::string const& text, TableOption& option, std::string& error) const {
+        if (text.empty()) {
+            return fail("names", "missing", error);
+        }
+        std::vector<std::string> names = splitAt(text, ',');
+        if (names.size() > 3) {
+            return fail("names", "more than three names", error);
+        }
+        for (std::string& name : names) {
+            name = trim(name);
+            std::string why;
+            if (!checkName(name, why)) {
+                return fail("names", why, error);
+            }
+        }
+        // The library keeps a third name for a short form.
+        if (names.size() == 3 && names[2].size() > 2) {
+            return fail("names", "the third name '" + names[2] + "' is longer than two characters", error);
+        }
+        option.names = names;
+        std::string variable = names[0];
+        for (char& c : variable) {
+            if (c == '-') {
+                c = '_';
+            }
+        }
+        option.variable = m_prefix.empty() ? variable : m_prefix + "_" + variable;
+        if (!isShellIdentifier(option.variable)) {
+            return fail("names", "'" + option.variable + "' is not a shell variable name", error);
+        }
+        return true;
+    }
+
+    bool readAttributes(std::string const& text, TableOption& option, std::string& error) {
+        bool hasAllow = false;
+        for (std::string const& word : splitBlanks(text)) {
+            std::string::size_type equals = word.find('=');
+            std::string key = word.substr(0, equals);
+            std::string value = equals == std::string::npos ? std::string() : word.substr(equals + 1);
+            if (word == "positional") {
+                if (option.positional) {
+                    return fail("attributes", "'positional' is given twice", error);
+                }
+                if (option.kind == tarvo2::vt_empty) {
+                    return fail("attributes", "an option of kind none cannot be positional", error);
+                }
+                if (m_state.positionalLine != 0) {
+                    return fail("attributes",
+                                "only one option can be positional; line " + std::to_string(m_state.positionalLine) +
+                                    " has one",
+                                error);
+                }
+                option.positional = true;
+            } else if (equals == std::string::npos) {
+                return fail("attributes", "unknown attribute '" + word + "'", error);
+            } else if (key == "default") {
+                if (option.hasDefault) {
+                    return fail("attributes", "'default' is given twice", error);
+                }
+                if (option.kind == tarvo2::vt_empty) {
+                    return fail("attributes", "an option of kind none takes no default", error);
+                }
+                if (value.empty()) {
+                    return fail("attributes", "empty default", error);
+                }
+                if (!convertValue(option, value, option.defaultValue)) {
+                    return fail("attributes", "default '" + value + "' is not a valid " + option.kindName, error);
+                }
+                option.hasDefault = true;
+            } else if (key == "allow") {
+                if (hasAllow) {
+                    return fail("attributes", "'allow' is given twice", error);
+                }
+                if (option.kind == tarvo2::vt_empty || option.kind == tarvo2::vt_bool) {
+                    return fail("attributes", "an option of kind " + option.kindName + " takes no allowed values",
+                                error);
+                }
+                for (std::string const& piece : splitAt(value, ',')) {
+                    tarvo2::variant_t allowed;
+                    if (piece.empty()) {
+                        return fail("attributes", "empty allowed value", error);
+                    }
+                    if (!convertValue(option, piece, allowed)) {
+                        return fail("attributes", "allowed value '" + piece + "' is not a valid " + option.kindName,
+                                    error);
+                    }
+                    option.allowed.push_back(allowed);
+                }
+                hasAllow = true;
+            } else if (key == "split") {
+                if (option.hasSplit) {
+                    return fail("attributes", "'split' is given twice", error);
+                }
+                if (option.kind == tarvo2::vt_empty || option.kind == tarvo2::vt_bool) {
+                    return fail("attributes", "an option of kind " + option.kindName + " takes no split", error);
+                }
+                if (value == "none") {
+                    option.split = 0;
+                } else if (value.size() == 1) {
+                    option.split = value[0];
+                } else {
+                    return fail("attributes", "split takes one character or 'none', not '" + value + "'", error);
+                }
+                option.hasSplit = true;
+            } else if (key == "synonym") {
+                std::string why;
+                if (!checkName(value, why)) {
+                    return fail("attributes", "synonym: " + why, error);
+                }
+                option.synonyms.push_back(value);
+            } else {
+                return fail("attributes", "unknown attribute '" + key + "'", error);
+            }
+        }
+        return true;
+    }
+
+    // Refuses a name that an earlier option answers to, counting the "no-"
+    // forms of booleans both ways, and a variable that an earlier option uses.
+    bool claimNames(TableOption const& option, std::string& error) {
+        std::vector<std::pair<std::string, char const*>> claims;
+        for (std::string const& name : option.names) {
+            claims.emplace_back(name, "names");
+        }
+        for (std::string const& name : option.synonyms) {
+            claims.emplace_back(name, "attributes");
+        }
+        std::size_t own = claims.size();
+        if (option.kind == tarvo2::vt_bool) {
+            for (std::size_t i = 0; i < own; ++i) {
+                claims.emplace_back("no-" + claims[i].first, claims[i].second);
+            }
+        }
+        std::map<std::string, int> mine;
+        for (auto const& claim : claims) {
+            auto found = m_state.names.find(claim.first);
+            if (found != m_state.names.end()) {
+                return fail(claim.second,
+                            "name '" + claim.first + "' is already taken by line " + std::to_string(found->second),
+                            error);
+            }
+            if (!mine.emplace(claim.first, m_line).second) {
+                return fail(claim.second, "name '" + claim.first + "' is given twice", error);
+            }
+        }
+        for (std::string const& variable : {option.variable, option.variable + "_count"}) {
+            auto found = m_state.variables.find(variable);
+            if (found != m_state.variables.end()) {
+                return fail("names",
+                            "variable '" + variable + "' is already taken by line " + std::to_string(found->second),
+                            error);
+            }
+        }
+        m_state.names.insert(mine.begin(), mine.end());
+        m_state.variables.emplace(option.variable, m_line);
+        m_state.variables.emplace(option.variable + "_count", m_line);
+        if (option.positional) {
+            m_state.positionalLine = m_line;
+        }
+        return true;
+    }
+
+    std::string const& m_source;
+    int m_line;
+    std::string const& m_prefix;
+    TableState& m_state;
+};
+
+}  // namespace
+
+bool isShellIdentifier(std::string const& text) {
+    if (text.empty() || isDigit(text[0])) {
+        return false;
+    }
+    for (char c : text) {
+        if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || isDigit(c) || c == '_')) {
+            return false;
+        }
+    }
+    return true;
+}
+
+TableOption const* OptionTable::helpOption() const {
+    for (TableOption const& option : options) {
+        if (option.kind != tarvo2::vt_empty) {
+            continue;
+        }
+        for (std::string const& name : option.names) {
+            if (name == "help") {
+                return &option;
+            }
+        }
+        for (std::string const& name : option.synonyms) {
+            if (name == "help") {
+                return &option;
+            }
+        }
+    }
+    return nullptr;
+}
+
+TableOption const* OptionTable::positionalOption() const {
+    for (TableOption const& option : options) {
+        if (option.positional) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+bool readTable(std::istream& in, std::string const& source, std::string const& prefix, OptionTable& table,
+               std::string& error) {
+    TableState state;
+    std::string text;
+    int line = 0;
+    while (std::getline(in, text)) {
+        ++line;
+        if (!text.empty() && text.back() == '\r') {
+            text.pop_back();
+        }
+        std::string content = trim(text);
+        if (content.empty() || content[0] == '#') {
+            continue;
+        }
+        TableOption option;
+        LineReader reader(source, line, prefix, state);
+        if (!reader.read(content, option, error)) {
+            return false;
+        }
+        table.options.push_back(option);
+    }
+    if (in.bad()) {
+        error = source + ": read error";
+        return false;
+    }
+    return true;
+}
+
+}  // namespace quenopt

@@ -1,0 +1,56 @@
+// Reading quenopt's option table: one option per line,
+//   names | kind | group | attributes | description
+// with '#' comment lines. Every check that the library would make silently
+// (or by writing to standard error) is made here first, so that a bad table
+// is reported with its file, line and field before anything is registered.
+#ifndef QUENOPT_OPTION_TABLE_H
+#define QUENOPT_OPTION_TABLE_H
+
+#include <quen_3_1/quen.h>
+
+#include <istream>
+#include <string>
+#include <vector>
+
+namespace quenopt {
+
+// One line of the table, checked and ready to be registered.
+struct TableOption {
+    int line = 0;
+    std::vector<std::string> names;     // the names field, primary name first
+    std::vector<std::string> synonyms;  // synonym= attributes, in order
+    std::string kindName;               // as written: bool, int, ..., none
+    tarvo2::kel_variant_type_t kind = tarvo2::vt_empty;
+    std::string group;
+    std::string description;
+    bool hasDefault = false;
+    tarvo2::variant_t defaultValue;
+    std::vector<tarvo2::variant_t> allowed;
+    bool hasSplit = false;  // false keeps the library's own splitting at ','
+    char split = ',';       // 0 after split=none
+    bool positional = false;
+    std::string variable;  // shell variable of the values; "_count" is appended for the count
+};
+
+struct OptionTable {
+    std::vector<TableOption> options;
+
+    // The option that answers --help: kind none with "help" among its names.
+    TableOption const* helpOption() const;
+    // The option marked positional, if any.
+    TableOption const* positionalOption() const;
+};
+
+// Reads the table from `in`. `source` names the file in messages; `prefix`
+// makes the variable names (prefix + "_" + name, or the bare name when the
+// prefix is empty). Returns true, or false with `error` set to a message of
+// the form "FILE:LINE: field 'F': what is wrong".
+bool readTable(std::istream& in, std::string const& source, std::string const& prefix, OptionTable& table,
+               std::string& error);
+
+// True when `text` may name a shell variable.
+bool isShellIdentifier(std::string const& text);
+
+}  // namespace quenopt
+
+#endif

@@ -1,0 +1,239 @@
+#include "parse_outcome.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <iostream>
+
+namespace quenopt {
+
+namespace {
+
+int const kNone = 0x7fffffff;
+
+// The library traces to standard output when a script's first argument is its
+// trace switch. Standard output is the text that the script evaluates, so
+// while the library parses, whatever it writes there goes to standard error.
+class TraceToStandardError {
+public:
+    TraceToStandardError() {
+        std::cout.flush();
+        std::fflush(stdout);
+        m_saved = dup(1);
+        if (m_saved >= 0) {
+            dup2(2, 1);
+        }
+    }
+    TraceToStandardError(TraceToStandardError const&) = delete;
+    TraceToStandardError& operator=(TraceToStandardError const&) = delete;
+    ~TraceToStandardError() {
+        std::cout.flush();
+        std::fflush(stdout);
+        if (m_saved >= 0) {
+            dup2(m_saved, 1);
+            close(m_saved);
+        }
+    }
+
+private:
+    int m_saved = -1;
+};
+
+struct ParserHolder {
+    quen_3_1::IParser* parser = nullptr;
+    quen_3_1::IParseResult* result = nullptr;
+    ParserHolder() = default;
+    ParserHolder(ParserHolder const&) = delete;
+    ParserHolder& operator=(ParserHolder const&) = delete;
+    ~ParserHolder() {
+        if (result != nullptr) {
+            result->destroy();
+        }
+        if (parser != nullptr) {
+            parser->destroy();
+        }
+    }
+};
+
+void registerOption(quen_3_1::IParser& parser, TableOption const& option) {
+    std::string names;
+    for (std::string const& name : option.names) {
+        names += (names.empty() ? "" : ",") + name;
+    }
+    quen_3_1::IOption* registered =
+        parser.option(names.c_str(), option.description.c_str(), option.kind, option.group.c_str());
+    for (std::string const& synonym : option.synonyms) {
+        registered->synonym(synonym.c_str());
+    }
+    for (tarvo2::variant_t const& allowed : option.allowed) {
+        registered->allowValue(allowed);
+    }
+    if (option.hasDefault) {
+        registered->defaultValue(option.defaultValue);
+    }
+    if (option.hasSplit) {
+        registered->tokenize(option.split);
+    }
+    if (option.positional) {
+        registered->positional();
+    }
+}
+
+// True when a value numbered `sequence` belongs to occurrence `index`: values
+// follow their occurrence's number and come before the next occurrence's.
+bool belongsTo(std::vector<int> const& occurrences, std::size_t index, int sequence) {
+    int end = index + 1 < occurrences.size() ? occurrences[index + 1] : kNone;
+    return sequence >= occurrences[index] && sequence < end;
+}
+
+OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& option) {
+    OptionOutcome outcome;
+    outcome.option = &option;
+    char const* name = option.names[0].c_str();
+    quen_3_1::Value first = result.get(name);
+    if (first.m_status != 0) {
+        return outcome;
+    }
+    if (first.m_text == nullptr) {
+        // No values at all: get() and next() walk the occurrences.
+        outcome.occurrences.push_back(first.m_index);
+        for (int position = result.nextPosition(); position != kNone; position = result.nextPosition()) {
+            outcome.occurrences.push_back(position);
+        }
+    } else {
+        outcome.values.push_back({first.m_text, first.m_index});
+        for (quen_3_1::Value value = result.next(name); value.m_status == 0; value = result.next(name)) {
+            outcome.values.push_back({value.m_text == nullptr ? "" : value.m_text, value.m_index});
+        }
+        result.get(name);
+        for (int position = result.nextPosition(); position != kNone; position = result.nextPosition()) {
+            outcome.occurrences.push_back(position);
+        }
+        if (outcome.occurrences.empty()) {
+            // The option was not given; get() answered with its default.
+            outcome.fromDefault = true;
+            return outcome;
+        }
+    }
+    if (option.kind == tarvo2::vt_empty) {
+        outcome.count = outcome.occurrences.size();
+        return outcome;
+    }
+    // Only an empty positional argument makes an occurrence without values;
+    // it stands for one empty value.
+    for (std::size_t i = 0; i < outcome.occurrences.size(); ++i) {
+        bool hasValue = std::any_of(outcome.values.begin(), outcome.values.end(), [&](OptionValue const& value) {
+            return belongsTo(outcome.occurrences, i, value.sequence);
+        });
+        if (!hasValue) {
+            outcome.values.push_back({"", outcome.occurrences[i]});
+        }
+    }
+    std::stable_sort(outcome.values.begin(), outcome.values.end(),
+                     [](OptionValue const& a, OptionValue const& b) { return a.sequence < b.sequence; });
+    outcome.count = outcome.values.size();
+    return outcome;
+}
+
+// The arguments that the positional option took, one per occurrence: the
+// pieces of a split argument are joined again with the split character.
+std::vector<std::string> positionalArguments(OptionOutcome const& outcome) {
+    std::vector<std::string> arguments;
+    if (outcome.fromDefault) {
+        return arguments;
+    }
+    TableOption const& option = *outcome.option;
+    char split = option.hasSplit ? option.split : ',';
+    for (std::size_t i = 0; i < outcome.occurrences.size(); ++i) {
+        std::string argument;
+        bool first = true;
+        for (OptionValue const& value : outcome.values) {
+            if (belongsTo(outcome.occurrences, i, value.sequence)) {
+                if (!first && split != 0) {
+                    argument += split;
+                }
+                argument += value.text;
+                first = false;
+            }
+        }
+        arguments.push_back(argument);
+    }
+    return arguments;
+}
+
+}  // namespace
+
+bool runParse(OptionTable const& table, int flags, std::vector<std::string> const& arguments, ParseOutcome& outcome,
+              std::string& problem) {
+    try {
+        ParserHolder holder;
+        if (quen_3_1::createParser(&holder.parser, flags) != 0) {
+            problem = "cannot create a parser";
+            return false;
+        }
+        for (TableOption const& option : table.options) {
+            registerOption(*holder.parser, option);
+        }
+        holder.parser->createResult(&holder.result);
+
+        std::vector<std::string> texts;
+        texts.reserve(arguments.size() + 1);
+        texts.push_back("quenopt");
+        texts.insert(texts.end(), arguments.begin(), arguments.end());
+        std::vector<char*> argv;
+        for (std::string& text : texts) {
+            argv.push_back(text.data());
+        }
+        argv.push_back(nullptr);
+        {
+            TraceToStandardError redirect;
+            outcome.code = holder.parser->parseArgsVector(static_cast<int>(texts.size()), argv.data(), holder.result);
+        }
+        if (outcome.code != 0) {
+            outcome.error = holder.parser->getErrorDesc();
+        }
+
+        std::vector<OptionOutcome> given;
+        std::vector<OptionOutcome> others;
+        TableOption const* positional = table.positionalOption();
+        std::vector<std::string> positionalTaken;
+        for (TableOption const& option : table.options) {
+            OptionOutcome collected = collectOption(*holder.result, option);
+            if (&option == positional) {
+                positionalTaken = positionalArguments(collected);
+            }
+            if (&option == table.helpOption() && !collected.occurrences.empty() && outcome.code == 0) {
+                outcome.help = true;
+                outcome.helpText = holder.parser->getDescription(false);
+            }
+            (collected.occurrences.empty() ? others : given).push_back(collected);
+        }
+        std::stable_sort(given.begin(), given.end(), [](OptionOutcome const& a, OptionOutcome const& b) {
+            return a.occurrences.front() < b.occurrences.front();
+        });
+        outcome.options = given;
+        outcome.options.insert(outcome.options.end(), others.begin(), others.end());
+
+        std::vector<std::string> afterTerminator;
+        char const* text = nullptr;
+        for (int code = holder.result->getFirstArgument(&text); code == 0;
+             code = holder.result->getNextArgument(&text)) {
+            afterTerminator.push_back(text);
+        }
+        // With this flag each argument after "--" also became a positional
+        // value; it is restored once, as an argument after "--".
+        if ((flags & quen_3_1::FlagPositionalAfterTerminator) != 0) {
+            std::size_t twice = std::min(afterTerminator.size(), positionalTaken.size());
+            positionalTaken.resize(positionalTaken.size() - twice);
+        }
+        outcome.arguments = positionalTaken;
+        outcome.arguments.insert(outcome.arguments.end(), afterTerminator.begin(), afterTerminator.end());
+        return true;
+    } catch (std::exception const& failure) {
+        problem = failure.what();
+        return false;
+    }
+}
+
+}  // namespace quenopt
