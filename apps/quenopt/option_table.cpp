@@ -319,6 +319,7 @@ private:
                     return fail("attributes", "default '" + value + "' is not a valid " + option.kindName, error);
                 }
                 option.hasDefault = true;
+                option.defaultText = value;
             } else if (key == "allow") {
                 if (hasAllow) {
                     return fail("attributes", "'allow' is given twice", error);

@@ -25,6 +25,7 @@ struct TableOption {
     std::string description;
     bool hasDefault = false;
     tarvo2::variant_t defaultValue;
+    std::string defaultText;  // as written in the table
     std::vector<tarvo2::variant_t> allowed;
     bool hasSplit = false;  // false keeps the library's own splitting at ','
     char split = ',';       // 0 after split=none

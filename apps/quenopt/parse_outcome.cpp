@@ -87,6 +87,24 @@ bool belongsTo(std::vector<int> const& occurrences, std::size_t index, int seque
     return sequence >= occurrences[index] && sequence < end;
 }
 
+// Integers are written in plain decimal whatever form the user chose (hex,
+// a sign, trailing characters the conversion ignored), so that shell
+// arithmetic can use them; other kinds keep their text.
+std::string valueText(TableOption const& option, quen_3_1::Value const& value) {
+    switch (option.kind) {
+        case tarvo2::vt_int:
+            return std::to_string(value.m_value.as<int>());
+        case tarvo2::vt_uint:
+            return std::to_string(value.m_value.as<unsigned int>());
+        case tarvo2::vt_int64:
+            return std::to_string(value.m_value.as<long long>());
+        case tarvo2::vt_uint64:
+            return std::to_string(value.m_value.as<unsigned long long>());
+        default:
+            return value.m_text == nullptr ? std::string() : std::string(value.m_text);
+    }
+}
+
 OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& option) {
     OptionOutcome outcome;
     outcome.option = &option;
@@ -102,17 +120,22 @@ OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& o
             outcome.occurrences.push_back(position);
         }
     } else {
-        outcome.values.push_back({first.m_text, first.m_index});
+        outcome.values.push_back({valueText(option, first), first.m_index});
         for (quen_3_1::Value value = result.next(name); value.m_status == 0; value = result.next(name)) {
-            outcome.values.push_back({value.m_text == nullptr ? "" : value.m_text, value.m_index});
+            outcome.values.push_back({valueText(option, value), value.m_index});
         }
         result.get(name);
         for (int position = result.nextPosition(); position != kNone; position = result.nextPosition()) {
             outcome.occurrences.push_back(position);
         }
         if (outcome.occurrences.empty()) {
-            // The option was not given; get() answered with its default.
+            // The option was not given; get() answered with its default. The
+            // library renders a double default with six digits; the table's
+            // own text loses nothing.
             outcome.fromDefault = true;
+            if (option.kind == tarvo2::vt_double) {
+                outcome.values.front().text = option.defaultText;
+            }
             return outcome;
         }
     }
