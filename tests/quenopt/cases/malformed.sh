@@ -1,0 +1,56 @@
+. ./lib.sh
+# Each table names the file, the line and the field; nothing reaches standard output.
+runq --table tables/malformed.table -- --x
+table 'onlyname'
+table 'x | integer | | | An integer'
+table ' | int'
+table 'a,b,c,d | int'
+table 'alpha,beta,gamma | int'
+table 'alpha,beta,ga | int | | default=1'
+table 'a b | int'
+table 'x.y | int'
+table '-x | int'
+table 'x,,y | int'
+table 'x | int | | default=abc'
+table 'x | int | | default=99999999999'
+table 'x | uint | | default=-1'
+table 'x | uint64 | | default=0xZZ'
+table 'x | double | | default=1.5.2'
+table 'x | bool | | default=yes'
+table 'x | int | | default='
+table 'x | int | | default=1 default=2'
+table 'x | none | | default=1'
+table 'x | bool | | allow=0,1'
+table 'x | none | | allow=a'
+table 'x | string | | allow=a,,b'
+table 'x | int | | allow=1,two'
+table 'x | string | | allow=a allow=b'
+table 'x | string | | split=ab'
+table 'x | string | | split='
+table 'x | bool | | split=:'
+table 'x | string | | colour=red'
+table 'x | string | | required'
+table 'x | none | | positional'
+table 'x | string | | positional positional'
+table 'x | string | | synonym=-y'
+table 'x | string | | synonym=y synonym=y'
+# Clashes with earlier lines, counting the "no-" names of booleans.
+table '# first an option
+x | string | | positional
+
+y | string | | positional'
+table 'verbose | bool
+no-verbose | string'
+table 'no-debug | int
+debug | bool'
+table 'x | int
+y | int | | synonym=x'
+table 'x,x | int'
+# Names that give the same variable.
+table 'a-b | int
+a_b | int'
+table 'x | int
+x-count | int'
+table 'x | int' --prefix ''
+table 'x1 | int
+1x | int' --prefix ''

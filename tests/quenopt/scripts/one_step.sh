@@ -1,0 +1,2 @@
+eval "$(quenopt --table "$1" -- x)" || exit
+echo "the script goes on"

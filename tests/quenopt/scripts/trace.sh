@@ -1,0 +1,3 @@
+. scripts/show.sh
+eval "$(quenopt --table tables/booleans.table -- "$@")" || exit
+show opt_verbose

@@ -1,0 +1,3 @@
+code=$(quenopt --table "$1" -- "$2") || exit
+eval "$code"
+echo "the script goes on"
