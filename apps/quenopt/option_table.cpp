@@ -371,29 +371,35 @@ private:
     // Refuses a name that an earlier option answers to, counting the "no-"
     // forms of booleans both ways, and a variable that an earlier option uses.
     bool claimNames(TableOption const& option, std::string& error) {
-        std::vector<std::pair<std::string, char const*>> claims;
+        struct Claim {
+            std::string name;
+            char const* field;
+            std::string shown;  // how messages name it
+        };
+        std::vector<Claim> claims;
         for (std::string const& name : option.names) {
-            claims.emplace_back(name, "names");
+            claims.push_back({name, "names", "name '" + name + "'"});
         }
         for (std::string const& name : option.synonyms) {
-            claims.emplace_back(name, "attributes");
+            claims.push_back({name, "attributes", "name '" + name + "'"});
         }
         std::size_t own = claims.size();
         if (option.kind == tarvo2::vt_bool) {
             for (std::size_t i = 0; i < own; ++i) {
-                claims.emplace_back("no-" + claims[i].first, claims[i].second);
+                std::string negated = "no-" + claims[i].name;
+                claims.push_back(
+                    {negated, claims[i].field, "name '" + negated + "' (the negation of '" + claims[i].name + "')"});
             }
         }
         std::map<std::string, int> mine;
-        for (auto const& claim : claims) {
-            auto found = m_state.names.find(claim.first);
+        for (Claim const& claim : claims) {
+            auto found = m_state.names.find(claim.name);
             if (found != m_state.names.end()) {
-                return fail(claim.second,
-                            "name '" + claim.first + "' is already taken by line " + std::to_string(found->second),
+                return fail(claim.field, claim.shown + " is already taken by line " + std::to_string(found->second),
                             error);
             }
-            if (!mine.emplace(claim.first, m_line).second) {
-                return fail(claim.second, "name '" + claim.first + "' is given twice", error);
+            if (!mine.emplace(claim.name, m_line).second) {
+                return fail(claim.field, claim.shown + " is given twice", error);
             }
         }
         for (std::string const& variable : {option.variable, option.variable + "_count"}) {
