@@ -30,5 +30,11 @@ if(IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
 else()
   set(QUEN_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 endif()
-configure_file(cmake/quen_3_1.pc.in "${PROJECT_BINARY_DIR}/quen_3_1.pc" @ONLY)
+# The prefix is written at install time, so that `cmake --install --prefix`
+# into any directory gives a .pc file that points there.
+set(QUEN_PC_PREFIX "@QUEN_PC_PREFIX@")
+configure_file(cmake/quen_3_1.pc.in "${PROJECT_BINARY_DIR}/quen_3_1.pc.in" @ONLY)
+install(CODE "set(QUEN_PC_PREFIX \"\${CMAKE_INSTALL_PREFIX}\")
+  configure_file(\"${PROJECT_BINARY_DIR}/quen_3_1.pc.in\" \"${PROJECT_BINARY_DIR}/quen_3_1.pc\" @ONLY)"
+  COMPONENT Development)
 install(FILES "${PROJECT_BINARY_DIR}/quen_3_1.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
