@@ -1,0 +1,114 @@
+// The trace stream follows the process-wide switch: standard output while it
+// is on, one reused discarding stream while it is off. The console helpers
+// pass texts through as bytes.
+#include "frontend/trace.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <ostream>
+#include <string>
+
+#include "frontend/ustring.h"
+#include "support/capture.h"
+
+using quen_3_1::internal::basic_nullbuf;
+using quen_3_1::internal::quenLog;
+using quen_3_1::internal::quenLogEnabled;
+using quen_test::FdCapture;
+
+namespace {
+
+class Trace : public ::testing::Test {
+protected:
+    void SetUp() override { quenLogEnabled = false; }
+    void TearDown() override { quenLogEnabled = false; }
+};
+
+}  // namespace
+
+TEST_F(Trace, DiscardsEverythingWhileSwitchedOff) {
+    FdCapture out(1);
+    quenLog() << "AbbreviationParser: recognizing argument '--x'" << std::endl;
+    quenLog() << "ignoring " << 42 << std::endl;
+    EXPECT_EQ(out.finish(), "");
+}
+
+TEST_F(Trace, WritesToStandardOutputWhileSwitchedOn) {
+    quenLogEnabled = true;
+    FdCapture out(1);
+    quenLog() << "AbbreviationParser: recognizing argument '--x'" << std::endl;
+    quenLog() << "parse result: " << 2 << ", message: " << std::endl;
+    EXPECT_EQ(out.finish(), "AbbreviationParser: recognizing argument '--x'\nparse result: 2, message: \n");
+}
+
+TEST_F(Trace, SwitchedOnStreamIsTheConsoleStream) {
+    quenLogEnabled = true;
+    EXPECT_EQ(&quenLog(), &ORNA_2_10::strings::tv2::ucout);
+    EXPECT_EQ(&quenLog(), &std::cout);
+}
+
+TEST_F(Trace, DiscardingStreamIsCreatedOnceAndReused) {
+    std::ostream& first = quenLog();
+    std::ostream& second = quenLog();
+    EXPECT_EQ(&first, &second);
+    EXPECT_NE(&first, &std::cout);
+    quenLogEnabled = true;
+    EXPECT_NE(&quenLog(), &first);
+    quenLogEnabled = false;
+    EXPECT_EQ(&quenLog(), &first);
+}
+
+TEST_F(Trace, SameCallSiteFollowsTheSwitchEachTime) {
+    FdCapture out(1);
+    for (bool on : {false, true, false, true, false}) {
+        quenLogEnabled = on;
+        quenLog() << (on ? "shown" : "hidden") << std::endl;
+    }
+    EXPECT_EQ(out.finish(), "shown\nshown\n");
+}
+
+TEST_F(Trace, DiscardingStreamStaysQuietAfterManyWrites) {
+    FdCapture out(1);
+    for (int i = 0; i < 1000; ++i) {
+        quenLog() << "line " << i << std::endl;
+    }
+    EXPECT_EQ(out.finish(), "");
+}
+
+TEST(NullBuffer, RefusesEveryCharacter) {
+    basic_nullbuf<char> buffer;
+    EXPECT_EQ(buffer.sputc('x'), std::char_traits<char>::eof());
+    EXPECT_EQ(buffer.sputn("abc", 3), 0);
+}
+
+TEST(NullBuffer, StreamOverItDiscardsOutput) {
+    FdCapture out(1);
+    basic_nullbuf<char> buffer;
+    std::ostream stream(&buffer);
+    EXPECT_TRUE(stream.good());
+    stream << "discarded" << std::endl;
+    EXPECT_TRUE(stream.bad());
+    EXPECT_EQ(out.finish(), "");
+}
+
+TEST(ConsoleText, ToUstringPassesAsciiUnchanged) {
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_ustring("--level=3\nfile name"), "--level=3\nfile name");
+}
+
+TEST(ConsoleText, ToUstringPassesOtherBytesUnchanged) {
+    char const bytes[] = "caf\xc3\xa9 \xff\x80\x01";
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_ustring(bytes), std::string(bytes));
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_ustring(bytes).size(), 9u);
+}
+
+TEST(ConsoleText, ToUstringOfNullIsEmpty) { EXPECT_EQ(ORNA_2_10::strings::tv2::to_ustring(nullptr), ""); }
+
+TEST(ConsoleText, ToUstringOfEmptyIsEmpty) { EXPECT_EQ(ORNA_2_10::strings::tv2::to_ustring(""), ""); }
+
+TEST(ConsoleText, ToUtf8PassesBytesUnchanged) {
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_utf8("verbose"), "verbose");
+    std::string const bytes("a\0b\xc3\xa9\xfe", 6);
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_utf8(bytes), bytes);
+    EXPECT_EQ(ORNA_2_10::strings::tv2::to_utf8(""), "");
+}
