@@ -1,5 +1,5 @@
 #!/bin/sh
-# The example of the manual page, with its table in a here-document.
+# The example of the manual page and the README, with its table in a here-document.
 eval "$(quenopt --table - -- "$@" <<'EOF_TABLE'
 help,h     | none   | general:Options | | Show this help
 verbose,v  | bool   | general | default=0 | Say what is done
