@@ -52,6 +52,8 @@ public:
     static std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width);
 
     RegisteredOptionStorage const& storage() const { return m_storage; }
+    // The keeper of every text this parser hands out.
+    Garbage& keeper() { return m_garbage; }
 
 private:
     std::string describe(bool hidden);
