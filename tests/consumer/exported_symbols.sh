@@ -15,6 +15,9 @@ symbols="$("$nm_tool" -DC --defined-only "$lib" | sed -E 's/^[0-9a-fA-F]+ [A-Za-
 allowed=(
     '^quen_3_1::createParser\(quen_3_1::IParser\*\*, int\)$'
     '^quen_3_1::getLastValue\(quen_3_1::IParseResult\*, char const\*, int, int\)$'
+    '^quen_3_1::completionScript\(quen_3_1::IParser\*, char const\*, char const\*\)$'
+    '^quen_3_1::suggestNames\(quen_3_1::IParser\*, char const\*, char const\*\*, int\)$'
+    '^quen_3_1::parseEnvironment\(quen_3_1::IParser\*, quen_3_1::IParseResult\*, char const\*\)$'
     '^tarvo2::variant_t::'
     '^[a-z][a-z *]* tarvo2::variant_t::as<[a-z][a-z *]*>\(\) const$'
     '^char const\* quen_3_1::Value::as<char const\*>\(\) const$'
@@ -23,6 +26,9 @@ allowed=(
 required=(
     'quen_3_1::createParser(quen_3_1::IParser**, int)'
     'quen_3_1::getLastValue(quen_3_1::IParseResult*, char const*, int, int)'
+    'quen_3_1::completionScript(quen_3_1::IParser*, char const*, char const*)'
+    'quen_3_1::suggestNames(quen_3_1::IParser*, char const*, char const**, int)'
+    'quen_3_1::parseEnvironment(quen_3_1::IParser*, quen_3_1::IParseResult*, char const*)'
     'char const* quen_3_1::Value::as<char const*>() const'
     'tarvo2::variant_t::m_mem'
     'char const* tarvo2::variant_t::as<char const*>() const'
