@@ -193,7 +193,7 @@ int parseAll(IParser* parser, IParseResult* result, int argc, char** argv) {
             return 1;
         }
         if (traced) {
-            text = kTraceSwitch + ("\n" + text);
+            text.insert(0, std::string(kTraceSwitch) + "\n");
         }
         if (int code = parser->parseStream(text.c_str(), result)) {
             return fail(parser, code);
