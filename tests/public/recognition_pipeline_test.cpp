@@ -117,6 +117,27 @@ TEST_F(TraceSwitch, AsSecondArgumentItCanBeUnknown) {
     EXPECT_EQ(harness.error(), "Unknown option: quenoption=quenlogenable=1");
 }
 
+TEST_F(TraceSwitch, OnlyTheExactTextCounts) {
+    for (char const* text :
+         {"quenoption=quenlogenable=1 \n", "QUENOPTION=QUENLOGENABLE=1\n", "quenoption=quenlogenable=10\n"}) {
+        ParserHarness harness(FlagUnknownIsError);
+        FdCapture out(1);
+        EXPECT_EQ(harness.parseText(text), 2) << text;
+        EXPECT_EQ(out.finish(), "") << text;
+        EXPECT_EQ(harness.error(), "Unknown option: " + std::string(text, std::string(text).size() - 1)) << text;
+    }
+}
+
+TEST_F(TraceSwitch, LeadingBlanksOfAnOptionTextLineAreNotPartOfIt) {
+    ParserHarness harness;
+    FdCapture out(1);
+    ASSERT_EQ(harness.parseText("  \tquenoption=quenlogenable=1\r\nx\n"), 0);
+    EXPECT_EQ(out.finish(),
+              "PositionalOptionsParser: recognizing argument 'x'\n"
+              "AbbreviationParser: recognizing argument 'x'\n"
+              "ignoring x\n");
+}
+
 TEST_F(TraceSwitch, HoldsForOneParseOnly) {
     ParserHarness harness;
     FdCapture first(1);

@@ -359,6 +359,19 @@ TEST_F(DefaultQuery, EachNameHasItsOwnDefaultNumber) {
     EXPECT_EQ(synonym.m_index, primary.m_index + 1);
 }
 
+TEST_F(DefaultQuery, DefaultRenderedAsEmptyTextCountsAsNone) {
+    ParserHarness harness;
+    harness.option("name", tarvo2::vt_str)->defaultValue(tarvo2::variant_t(""));
+    // A text option reads an integer default as no text at all.
+    harness.option("mode", tarvo2::vt_str)->defaultValue(tarvo2::variant_t(3));
+    ASSERT_EQ(harness.parseArgs({}), 0);
+    for (char const* name : {"name", "mode"}) {
+        EXPECT_FALSE(harness.result()->present(name, 0, kNoNumber)) << name;
+        expectNotFound(harness.result()->get(name, 0, kNoNumber));
+        expectNotFound(getLastValue(harness.result(), name, 0, kNoNumber));
+    }
+}
+
 TEST_F(DefaultQuery, DefaultOfAnOptionThatOccursIsNeverYielded) {
     ParserHarness harness;
     harness.option("level", tarvo2::vt_int)->defaultValue(tarvo2::variant_t(7));
