@@ -43,7 +43,7 @@ std::vector<std::vector<std::size_t>> editTable(std::string const& a, std::strin
 std::size_t editDistance(std::string const& a, std::string const& b) { return editTable(a, b)[a.size()][b.size()]; }
 
 std::size_t abbreviationDistance(std::string const& typed, std::string const& full) {
-    std::vector<std::size_t> const& last = editTable(typed, full)[typed.size()];
+    std::vector<std::size_t> const last = editTable(typed, full)[typed.size()];
     return *std::min_element(last.begin(), last.end());
 }
 
@@ -77,7 +77,7 @@ std::vector<std::string> closestNames(RegisteredOptionStorage const& storage, st
     if (typed.empty() || max == 0) {
         return names;
     }
-    std::size_t const reach = (typed.size() + 2) / 3;
+    std::size_t const reach = typed.size() / 3;
     std::vector<std::pair<std::size_t, std::string>> near;
     std::set<std::string> seen;
     for (VisibleName const& candidate : visibleNames(storage)) {

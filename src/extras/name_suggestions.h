@@ -28,7 +28,8 @@ std::string typedOptionName(std::string const& argument);
 
 // At most `max` visible names within reach of `typed`, nearest first, ties in
 // the recognizer's candidate order. A name is within reach when its distance
-// is at most a third of the typed name's length, rounded up.
+// is at most a third of the typed name's length, rounded down: a short typed
+// name would otherwise be one edit from the first letter of every name.
 std::vector<std::string> closestNames(RegisteredOptionStorage const& storage, std::string const& typed,
                                       std::size_t max);
 
