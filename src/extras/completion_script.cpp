@@ -109,9 +109,12 @@ _quen_complete_@ID@() {
         fi
         if [[ -z $next || $kind == [vfx] ]]; then
             if [[ $kind == v ]]; then
+                # Readline inserts replies as they stand: blanks and quotes
+                # in a value are escaped here.
                 ref="values_${owners[best[0]]}[@]"
                 for word in "${!ref}"; do
                     if [[ $word == "$value"* ]]; then
+                        printf -v word '%q' "$word"
                         COMPREPLY+=("$lead$word")
                     fi
                 done

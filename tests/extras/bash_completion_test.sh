@@ -74,7 +74,7 @@ check "allowed values after an abbreviated name" "json|json-lines" --l-fo j
 check "allowed values after = in one word" "--log-format=json|--log-format=json-lines" --log-format=j
 check "allowed values after = split off by readline" "json|json-lines" --log-format = j
 check "allowed values right after a split-off =" "plain|json|json-lines" --log-format =
-check "allowed values keep their blanks" "--mode=slow|--mode=safe mode" --mode=s
+check "allowed values have their blanks escaped" '--mode=slow|--mode=safe\ mode' --mode=s
 check "numbers are not guessed" "" --level ""
 check "booleans take no value after =" "" --verbose=
 check_files "text values complete as files" "alpha.txt|beta.log|sub" --log-file ""
