@@ -7,9 +7,7 @@
 
 namespace quen_3_1 {
 
-BasicParser::BasicParser(int flags) : m_storage(), m_garbage(), m_lastError(), m_flags(flags), m_handlers() {
-    m_storage.setGarbage(&m_garbage);
-}
+BasicParser::BasicParser(int flags) : m_flags(flags) { m_storage.setGarbage(&m_garbage); }
 
 void BasicParser::destroy() { delete this; }
 

@@ -46,7 +46,8 @@ public:
     void setLastError(std::string const& text);
     // Stores every argument after the terminator as a plain argument; with
     // FlagPositionalAfterTerminator also offers it to the positional option.
-    int collectNonparsingArguments(std::string terminator, ArgumentList& args, ParseResult* result, std::string& error);
+    int collectNonparsingArguments(std::string const& terminator, ArgumentList& args, ParseResult* result,
+                                   std::string& error);
     // Wraps `text` into lines of at most indent + width - 1 characters, the
     // first one starting with `head`.
     static std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width);

@@ -69,7 +69,7 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
     return 0;
 }
 
-int BasicParser::collectNonparsingArguments(std::string terminator, ArgumentList& args, ParseResult* result,
+int BasicParser::collectNonparsingArguments(std::string const& terminator, ArgumentList& args, ParseResult* result,
                                             std::string& error) {
     try {
         std::vector<std::string> all = args.takeRemaining();

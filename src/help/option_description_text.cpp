@@ -21,10 +21,15 @@ bool isShown(std::string const& group, bool hidden) { return (group == kHiddenGr
 // Synonyms first, the most recently added first; the primary name last.
 std::string namesPart(OptionDescription const& option) {
     std::vector<std::string> const& names = option.names();
-    std::string head = "-" + names.at(0);
-    for (std::size_t i = 1; i < names.size(); ++i) {
-        head = "-" + names[i] + ", " + head;
+    std::string const& primary = names.at(0);
+    std::string head;
+    for (std::size_t i = names.size() - 1; i >= 1; --i) {
+        head += "-";
+        head += names[i];
+        head += ", ";
     }
+    head += "-";
+    head += primary;
     return head;
 }
 

@@ -19,8 +19,6 @@ OptionDescription::OptionDescription(std::vector<std::string> names, std::string
       m_hasDefault(false),
       m_tokenizer(','),
       m_type(type),
-      m_default(),
-      m_allowedValues(),
       m_garbage(garbage) {}
 
 IOption* OptionDescription::synonym(char const* name) {

@@ -17,8 +17,8 @@ class AbbreviationParser final : public IArgumentParser {
 public:
     // A candidate name that the typed name matches, with its score.
     struct NameMatch {
-        bool sameLength;
-        std::int32_t score;
+        bool sameLength = false;
+        std::int32_t score = 0;
         DecomposedName name;
     };
 

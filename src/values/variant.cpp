@@ -22,8 +22,10 @@ bool isNarrowText(kel_variant_type_t type) { return type == vt_str || type == vt
 
 bool isWideText(kel_variant_type_t type) { return type == vt_wstr || type == vt_wstr_ref; }
 
+// The payload word holds the pointer itself; that is the variant's layout.
 template <class P>
 P payloadPointer(std::uint64_t data) {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     return reinterpret_cast<P>(static_cast<std::uintptr_t>(data));
 }
 
