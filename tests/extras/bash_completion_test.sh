@@ -8,8 +8,8 @@ failed=0
 
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
-"$host" bash >"$work/with.bash" || exit 1
-"$host" bash without-positional >"$work/without.bash" || exit 1
+"$host" bash >"$work/with.bash" || { echo "not ok - the host printed no bash script"; exit 1; }
+"$host" bash without-positional >"$work/without.bash" || { echo "not ok - the host printed no bash script"; exit 1; }
 mkdir "$work/files" "$work/files/sub"
 touch "$work/files/alpha.txt" "$work/files/beta.log"
 cd "$work/files" || exit 1

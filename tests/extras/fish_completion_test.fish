@@ -6,8 +6,12 @@ set -g passed 0
 set -g failed 0
 
 set -l work (mktemp -d)
-$host fish >$work/with.fish; or exit 1
-$host fish without-positional >$work/without.fish; or exit 1
+$host fish >$work/with.fish
+and $host fish without-positional >$work/without.fish
+or begin
+    echo "not ok - the host printed no fish script"
+    exit 1
+end
 mkdir $work/files $work/files/sub
 touch $work/files/alpha.txt $work/files/beta.log
 cd $work/files; or exit 1

@@ -9,7 +9,7 @@ integer passed=0 failed=0 step=0
 
 work=$(mktemp -d)
 trap 'zpty -d quen 2>/dev/null; rm -rf $work' EXIT
-$host zsh > $work/with.zsh || exit 1
+$host zsh > $work/with.zsh || { print "not ok - the host printed no zsh script"; exit 1 }
 mkdir $work/files $work/files/sub
 touch $work/files/alpha.txt $work/files/beta.log
 cd $work/files || exit 1
