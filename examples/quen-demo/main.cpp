@@ -1,7 +1,9 @@
 // quen-demo: a made-up file synchronisation tool that shows a host of
 // quen_3_1 from start to end. It declares its options from a table, parses
 // its own command line and any options files into one result, and prints what
-// it received in the order in which it was given.
+// it received in the order in which it was given. QUEN_DEMO_* environment
+// variables supply values too; the command line wins over them.
+#include <quen_3_1/extras.h>
 #include <quen_3_1/quen.h>
 
 #include <algorithm>
@@ -21,6 +23,9 @@ using tarvo2::variant_t;
 
 constexpr int kNoNumber = 0x7fffffff;  // what a query answers when there is no position
 constexpr char kTraceSwitch[] = "quenoption=quenlogenable=1";
+constexpr char kEnvironmentPrefix[] = "QUEN_DEMO_";
+constexpr int kSuggestions = 3;
+constexpr int kCannotReadFile = 66;  // an options file that cannot be read; not a library code
 
 // Unknown options are errors, and a file name never starts with '-', so a
 // mistyped option cannot slip into the file list.
@@ -88,6 +93,8 @@ std::vector<OptionRow> optionTable() {
          {}, {}, 0, nullptr, false},
         {"help,h", vt_empty, kGeneral, "Show this help and exit.",
          {}, {}, ',', nullptr, false},
+        {"completion", vt_str, kGeneral, "Print a completion script for this shell and exit.",
+         {}, {"bash", "zsh", "fish"}, 0, nullptr, false},
         {"debug-level", vt_int, kHidden, "Internal diagnostics, not shown in the help.",
          0, {}, ',', nullptr, false},
     };
@@ -116,9 +123,36 @@ void declare(IParser* parser, OptionRow const& row) {
     }
 }
 
-int fail(IParser* parser, int code) {
+// Remembers the last argument no option took, to suggest names for it.
+class UnknownArgumentRecorder final : public quen_3_1::EventHandler {
+public:
+    bool onUknownArgument(char const* argument) override {
+        m_last = argument;
+        return true;
+    }
+    std::string const& last() const { return m_last; }
+
+private:
+    std::string m_last;
+};
+
+// suggestNames drops the hyphens and any "=value" of the argument itself.
+void suggest(IParser* parser, std::string const& argument) {
+    char const* names[kSuggestions] = {};
+    int const count = quen_3_1::suggestNames(parser, argument.c_str(), names, kSuggestions);
+    for (int i = 0; i < count; ++i) {
+        std::fprintf(stderr, "%s --%s", i == 0 ? "Did you mean" : i + 1 == count ? " or" : ",", names[i]);
+    }
+    if (count > 0) {
+        std::fprintf(stderr, "?\n");
+    }
+}
+
+void fail(IParser* parser, int code, UnknownArgumentRecorder const& unknown) {
     std::fprintf(stderr, "%s\n", parser->getErrorDesc());
-    return code;
+    if (code == 2 && !unknown.last().empty()) {
+        suggest(parser, unknown.last());
+    }
 }
 
 bool readFile(std::string const& path, std::string& text) {
@@ -139,10 +173,13 @@ std::vector<std::string> optionsFiles(IParseResult* result) {
     return paths;
 }
 
-// Parses the command line, then every options file into the same result.
-int parseAll(IParser* parser, IParseResult* result, int argc, char** argv) {
+// The environment first, then the command line, then every options file.
+int parseSources(IParser* parser, IParseResult* result, int argc, char** argv) {
+    if (int code = quen_3_1::parseEnvironment(parser, result, kEnvironmentPrefix)) {
+        return code;
+    }
     if (int code = parser->parseArgsVector(argc, argv, result)) {
-        return fail(parser, code);
+        return code;
     }
     // Each parse switches the trace off unless its first argument is the switch.
     bool traced = argc > 1 && std::strcmp(argv[1], kTraceSwitch) == 0;
@@ -150,16 +187,29 @@ int parseAll(IParser* parser, IParseResult* result, int argc, char** argv) {
         std::string text;
         if (!readFile(path, text)) {
             std::fprintf(stderr, "quen-demo: cannot read options file '%s'\n", path.c_str());
-            return 1;
+            return kCannotReadFile;
         }
         if (traced) {
             text.insert(0, std::string(kTraceSwitch) + "\n");
         }
         if (int code = parser->parseStream(text.c_str(), result)) {
-            return fail(parser, code);
+            return code;
         }
     }
     return 0;
+}
+
+// Parses every source into one result; later sources carry later sequence
+// numbers, so the command line wins over the environment.
+int parseAll(IParser* parser, IParseResult* result, int argc, char** argv) {
+    UnknownArgumentRecorder unknown;
+    parser->addHandler(&unknown);
+    int const code = parseSources(parser, result, argc, argv);
+    if (code != 0 && code != kCannotReadFile) {
+        fail(parser, code, unknown);
+    }
+    parser->removeHandler(&unknown);
+    return code;
 }
 
 struct Entry {
@@ -277,7 +327,10 @@ int main(int argc, char** argv) {
     parser->createResult(&result);
 
     int code = parseAll(parser, result, argc, argv);
-    if (code == 0 && result->present("help")) {
+    Value const shell = result->get("completion");
+    if (code == 0 && shell.m_status == 0) {
+        std::fputs(quen_3_1::completionScript(parser, "quen-demo", shell.m_text), stdout);
+    } else if (code == 0 && result->present("help")) {
         std::printf("Usage: quen-demo [options] [FILE...] [-- ARGUMENT...]\n%s", parser->getDescription(false));
     } else if (code == 0) {
         printResult(result, rows);
