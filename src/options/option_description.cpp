@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "options/registered_option_storage.h"
+
 namespace quen_3_1 {
 
 OptionDescription::OptionDescription()
@@ -23,6 +25,9 @@ OptionDescription::OptionDescription(std::vector<std::string> names, std::string
 
 IOption* OptionDescription::synonym(char const* name) {
     m_names.emplace_back(name);
+    if (m_link.registry != nullptr) {
+        m_link.registry->nameAdded(m_link.index);
+    }
     return this;
 }
 
@@ -44,6 +49,9 @@ IOption* OptionDescription::tokenize(char c) {
 
 IOption* OptionDescription::positional() {
     m_positional = true;
+    if (m_link.registry != nullptr) {
+        m_link.registry->positionalSet(m_link.index);
+    }
     return this;
 }
 

@@ -1,6 +1,7 @@
 #ifndef QUEN_3_1_OPTIONS_OPTION_DESCRIPTION_H
 #define QUEN_3_1_OPTIONS_OPTION_DESCRIPTION_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -10,6 +11,7 @@
 namespace quen_3_1 {
 
 class Garbage;
+class RegisteredOptionStorage;
 
 // Everything known about one registered option. Hosts refine it through
 // IOption; recognizers, validation, results and help read it.
@@ -44,6 +46,12 @@ public:
     tarvo2::variant_t const& getDefault() const { return m_default; }
     std::vector<tarvo2::variant_t> const& allowedValues() const { return m_allowedValues; }
     Garbage* garbage() const { return m_garbage; }
+    // Called by the registry that stores this description, so that names and
+    // the positional flag set later reach its indexes.
+    void linkTo(RegisteredOptionStorage* registry, std::size_t index) {
+        m_link.registry = registry;
+        m_link.index = index;
+    }
 
     // Runs op.execute<T>() for the native type of m_type; false for kinds
     // without a conversion.
@@ -77,6 +85,17 @@ private:
     tarvo2::variant_t m_default;
     std::vector<tarvo2::variant_t> m_allowedValues;
     Garbage* m_garbage;
+
+    // Only the stored description is linked; a copy is nobody's and stays unlinked.
+    struct RegistryLink {
+        RegisteredOptionStorage* registry = nullptr;
+        std::size_t index = 0;
+        RegistryLink() = default;
+        RegistryLink(RegistryLink const& /*other*/) {}
+        RegistryLink& operator=(RegistryLink const& /*other*/) { return *this; }
+        ~RegistryLink() = default;
+    };
+    RegistryLink m_link;
 };
 
 }  // namespace quen_3_1

@@ -22,9 +22,27 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
+    std::size_t const index = m_options.size();
     m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, description, type, m_garbage);
-    m_options.back().setStatus(0);
-    return &m_options.back();
+    OptionDescription& stored = m_options.back();
+    stored.setStatus(0);
+    for (std::size_t i = 0; i < stored.names().size(); ++i) {
+        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool);
+    }
+    stored.linkTo(this, index);
+    return &stored;
+}
+
+void RegisteredOptionStorage::nameAdded(std::size_t option) {
+    OptionDescription const& described = m_options[option];
+    std::size_t const last = described.names().size() - 1;
+    m_names.add(option, last, described.names()[last], described.type() == tarvo2::vt_bool);
+}
+
+void RegisteredOptionStorage::positionalSet(std::size_t option) {
+    if (m_firstPositional == static_cast<std::size_t>(-1) || option < m_firstPositional) {
+        m_firstPositional = option;
+    }
 }
 
 // The first title given to a group wins; later ones are ignored.
@@ -76,7 +94,20 @@ bool RegisteredOptionStorage::answersTo(OptionDescription const& option, std::st
     return false;
 }
 
+// The index lists the candidates of a name in registration order, so its
+// first one is the option the scan would meet first.
 int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
+    for (std::string const& name : names) {
+        std::vector<std::size_t> const* const found = m_names.exact(name);
+        if (found != nullptr && !found->empty()) {
+            index = m_names.candidate(found->front()).option;
+            return 0;
+        }
+    }
+    return 1;
+}
+
+int RegisteredOptionStorage::scanForOption(std::vector<std::string> const& names, unsigned long& index) const {
     for (std::string const& name : names) {
         for (std::size_t i = 0; i < m_options.size(); ++i) {
             if (answersTo(m_options[i], name)) {
@@ -89,7 +120,12 @@ int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, u
 }
 
 int RegisteredOptionStorage::isAdded(std::string const& name, unsigned long& index) const {
-    return findOption(std::vector<std::string>{name}, index);
+    std::vector<std::size_t> const* const found = m_names.exact(name);
+    if (found == nullptr || found->empty()) {
+        return 1;
+    }
+    index = m_names.candidate(found->front()).option;
+    return 0;
 }
 
 }  // namespace quen_3_1

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "options/name_index.h"
 #include "options/option_description.h"
 
 namespace quen_3_1 {
@@ -34,6 +35,16 @@ public:
     int findOption(std::vector<std::string> const& names, unsigned long& index) const;
     // findOption for one name.
     int isAdded(std::string const& name, unsigned long& index) const;
+    // findOption by walking every option, the reference for the index.
+    int scanForOption(std::vector<std::string> const& names, unsigned long& index) const;
+
+    // Every name the options answer to.
+    NameIndex const& names() const { return m_names; }
+    // Index of the first option declared positional; all bits set when there is none.
+    std::size_t firstPositional() const { return m_firstPositional; }
+    // Told by a stored option when the host refines it.
+    void nameAdded(std::size_t option);
+    void positionalSet(std::size_t option);
 
     void setGarbage(Garbage* garbage) { m_garbage = garbage; }
     std::size_t size() const { return m_options.size(); }
@@ -49,6 +60,8 @@ private:
     std::vector<std::pair<std::string, std::string>> m_groups;
     Garbage* m_garbage = nullptr;
     OptionDescription m_invalidOption;
+    NameIndex m_names;
+    std::size_t m_firstPositional = static_cast<std::size_t>(-1);
 };
 
 }  // namespace quen_3_1

@@ -34,12 +34,8 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
     }
     std::size_t const hyphens = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
     std::string const typed = typedName(argument, hyphens);
-    std::vector<DecomposedName> names;
-    makeOptionNamesList(storage, names);
-    std::vector<NameMatch> matches;
-    makeNameMatch(matches, DecomposedName(typed), names);
-    DecomposedName best;
-    int const found = findBest(matches, best, message);
+    std::size_t best = 0;
+    int const found = findBestIndexed(storage.names(), typed, best, message);
     if (found == 2) {
         internal::quenLog() << m_name << ": failed to get best match for '" << typed << "' in argument '" << argument
                             << "':" << message << std::endl;
@@ -48,7 +44,7 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
     if (found != 0) {
         return 1;
     }
-    std::string const bestName = best.getName();
+    std::string const& bestName = storage.names().candidate(best).text;
     internal::quenLog() << m_name << ": best match option for '" << typed << "' in argument '" << argument << "' is '"
                         << bestName << "'" << std::endl;
     unsigned long index = 0;

@@ -4,12 +4,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "recognizers/argument_parser.h"
 #include "recognizers/decomposed_name.h"
 
 namespace quen_3_1 {
+
+class NameIndex;
 
 // The recognizer of named options: -name, --name, --name=value, --name value,
 // and --no-name for booleans, with every part of a name abbreviable.
@@ -39,6 +42,12 @@ public:
     // 0 with `best` set for a unique best same-length match, 1 when there is
     // none, 2 with `message` set when the best score is tied.
     int findBest(std::vector<NameMatch> const& matches, DecomposedName& best, std::string& message);
+    // What findBest gives for the matches of `typed` against the whole
+    // candidate list, found through the registry's index of names: only
+    // candidates with as many parts and a first part that `typed`'s first
+    // part begins can score, and a candidate equal to `typed` beats every
+    // other. `best` is the winning candidate of the index.
+    int findBestIndexed(NameIndex const& index, std::string const& typed, std::size_t& best, std::string& message);
 
     std::size_t optionIndex() const { return m_optionIndex; }
     std::vector<NameMatch> const& bestMatches() const { return m_bestMatches; }
@@ -55,6 +64,10 @@ private:
 
     std::size_t m_optionIndex;
     std::vector<NameMatch> m_bestMatches;
+    // Working storage of findBestIndexed, kept to spare allocations.
+    std::vector<std::string_view> m_typedParts;
+    std::vector<std::size_t> m_shaped;
+    std::vector<std::size_t> m_bestIds;
 };
 
 }  // namespace quen_3_1

@@ -2,15 +2,25 @@
 
 namespace quen_3_1 {
 
-DecomposedName::DecomposedName(std::string const& name) {
-    std::string::size_type start = 0;
+DecomposedName::DecomposedName(std::string const& name) { assign(name); }
+
+void DecomposedName::assign(std::string_view name) {
+    std::size_t count = 0;
+    std::string_view::size_type start = 0;
     for (;;) {
-        std::string::size_type const hyphen = name.find('-', start);
-        if (hyphen == std::string::npos) {
-            parts.push_back(name.substr(start));
+        std::string_view::size_type const hyphen = name.find('-', start);
+        std::string_view const part =
+            name.substr(start, hyphen == std::string_view::npos ? std::string_view::npos : hyphen - start);
+        if (count < parts.size()) {
+            parts[count].assign(part.data(), part.size());
+        } else {
+            parts.emplace_back(part);
+        }
+        ++count;
+        if (hyphen == std::string_view::npos) {
+            parts.resize(count);
             return;
         }
-        parts.push_back(name.substr(start, hyphen - start));
         start = hyphen + 1;
     }
 }

@@ -2,6 +2,7 @@
 #define QUEN_3_1_RECOGNIZERS_DECOMPOSED_NAME_H
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quen_3_1 {
@@ -11,6 +12,9 @@ namespace quen_3_1 {
 struct DecomposedName {
     DecomposedName() : parts(1) {}
     explicit DecomposedName(std::string const& name);
+
+    // Replaces the parts by those of `name`, reusing their storage.
+    void assign(std::string_view name);
 
     // The parts joined with "-": the name it was built from.
     std::string getName() const;

@@ -1,6 +1,7 @@
 // Candidate names, their scores against a typed name, and the choice of the
 // best one. Equal best scores are always ambiguous, even for two names of
 // one option: hosts rely on never getting a silent guess.
+#include "options/name_index.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/abbreviation_parser.h"
 
@@ -25,6 +26,42 @@ std::int32_t scoreParts(DecomposedName const& typed, DecomposedName const& candi
         }
     }
     return score;
+}
+
+// scoreParts for a typed name split into `typed` and a candidate of as many
+// parts held whole.
+std::int32_t scoreText(std::vector<std::string_view> const& typed, std::string_view candidate) {
+    std::int32_t score = 0;
+    std::size_t start = 0;
+    for (std::string_view const part : typed) {
+        std::size_t const hyphen = candidate.find('-', start);
+        std::string_view const full =
+            candidate.substr(start, hyphen == std::string_view::npos ? std::string_view::npos : hyphen - start);
+        if (part == full) {
+            score += 2;
+        } else if (full.size() >= part.size() && full.compare(0, part.size(), part) == 0) {
+            score += 1;
+        } else {
+            return 0;
+        }
+        start = hyphen + 1;
+    }
+    return score;
+}
+
+void splitParts(std::string const& name, std::vector<std::string_view>& parts) {
+    parts.clear();
+    std::string_view const whole(name);
+    std::size_t start = 0;
+    for (;;) {
+        std::size_t const hyphen = whole.find('-', start);
+        if (hyphen == std::string_view::npos) {
+            parts.push_back(whole.substr(start));
+            return;
+        }
+        parts.push_back(whole.substr(start, hyphen - start));
+        start = hyphen + 1;
+    }
 }
 
 }  // namespace
@@ -81,6 +118,48 @@ int AbbreviationParser::findBest(std::vector<NameMatch> const& matches, Decompos
         return 2;
     }
     best = m_bestMatches.front().name;
+    return 0;
+}
+
+int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string const& typed, std::size_t& best,
+                                        std::string& message) {
+    splitParts(typed, m_typedParts);
+    m_bestIds.clear();
+    std::int32_t bestScore = 0;
+    std::vector<std::size_t> const* const exact = index.exact(typed);
+    if (exact != nullptr && !exact->empty()) {
+        m_bestIds = *exact;
+        bestScore = static_cast<std::int32_t>(2 * m_typedParts.size());
+    } else {
+        m_shaped.clear();
+        index.withShape(m_typedParts.size(), m_typedParts.front(), m_shaped);
+        for (std::size_t const id : m_shaped) {
+            std::int32_t const score = scoreText(m_typedParts, index.candidate(id).text);
+            if (score == 0) {
+                continue;
+            }
+            if (score > bestScore) {
+                bestScore = score;
+                m_bestIds.assign(1, id);
+            } else if (score == bestScore) {
+                m_bestIds.push_back(id);
+            }
+        }
+    }
+    m_bestMatches.resize(m_bestIds.size());
+    for (std::size_t i = 0; i < m_bestIds.size(); ++i) {
+        m_bestMatches[i].sameLength = true;
+        m_bestMatches[i].score = bestScore;
+        m_bestMatches[i].name.assign(index.candidate(m_bestIds[i]).text);
+    }
+    if (m_bestIds.empty()) {
+        return 1;
+    }
+    if (m_bestIds.size() > 1) {
+        message = "Ambiguous option, possible options are: " + listNames(m_bestMatches);
+        return 2;
+    }
+    best = m_bestIds.front();
     return 0;
 }
 

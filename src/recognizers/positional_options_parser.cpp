@@ -9,15 +9,8 @@ namespace {
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-// Only the first positional option is ever filled.
-std::size_t firstPositional(RegisteredOptionStorage const& storage) {
-    for (std::size_t i = 0; i < storage.size(); ++i) {
-        if (storage.at(i).isPositional()) {
-            return i;
-        }
-    }
-    return kNone;
-}
+// Only the first positional option is ever filled; the registry keeps its index.
+std::size_t firstPositional(RegisteredOptionStorage const& storage) { return storage.firstPositional(); }
 
 }  // namespace
 

@@ -1,0 +1,290 @@
+// Every fast path of the library against the straightforward path it stands
+// for, over a large generated corpus: the same answers, messages and orders.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "frontend/trace.h"
+#include "options/name_index.h"
+#include "options/registered_option_storage.h"
+#include "recognizers/abbreviation_parser.h"
+#include "recognizers/argument_list.h"
+#include "recognizers/decomposed_name.h"
+#include "support/capture.h"
+
+using quen_3_1::AbbreviationParser;
+using quen_3_1::ArgumentList;
+using quen_3_1::DecomposedName;
+using quen_3_1::IOption;
+using quen_3_1::RegisteredOptionStorage;
+
+namespace {
+
+class FastPath : public ::testing::Test {
+protected:
+    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
+    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
+};
+
+constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
+
+// Few short parts, so that equal parts, prefixes, "no-" forms, empty parts
+// and duplicate names are frequent.
+char const* const kParts[] = {"", "a", "ab", "abc", "b", "ba", "no", "n", "x", "xy", "log", "lo", "l", "file", "f"};
+
+class Corpus {
+public:
+    explicit Corpus(std::uint32_t seed) : m_random(seed) {}
+
+    std::size_t below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(m_random); }
+
+    std::string name() {
+        std::string text = below(6) == 0 ? "no-" : "";
+        std::size_t const parts = 1 + below(3);
+        for (std::size_t i = 0; i < parts; ++i) {
+            text += (i == 0 ? "" : "-");
+            text += kParts[below(sizeof kParts / sizeof kParts[0])];
+        }
+        return text;
+    }
+
+    // A typed name: any name, or a registered one with its parts shortened.
+    std::string typed(std::vector<std::string> const& known) {
+        if (known.empty() || below(3) == 0) {
+            return name();
+        }
+        DecomposedName decomposed(known[below(known.size())]);
+        for (std::string& part : decomposed.parts) {
+            part.resize(below(part.size() + 1));
+        }
+        return below(4) == 0 ? known[below(known.size())] : decomposed.getName();
+    }
+
+    // Options of every kind, some refused, synonyms added to earlier options
+    // at any time (duplicates included) and some options made positional.
+    std::vector<std::string> populate(RegisteredOptionStorage& storage) {
+        quen_test::FdCapture refusals(2);  // a clashing name is reported on standard error
+        std::vector<std::string> known;
+        std::vector<IOption*> stored;
+        tarvo2::kel_variant_type_t const kinds[] = {tarvo2::vt_bool, tarvo2::vt_bool,  tarvo2::vt_int,
+                                                    tarvo2::vt_str,  tarvo2::vt_empty, tarvo2::vt_double};
+        std::size_t const count = 1 + below(30);
+        for (std::size_t i = 0; i < count; ++i) {
+            std::string list = name();
+            std::size_t const more = below(3);
+            for (std::size_t j = 0; j < more; ++j) {
+                list += "," + name();
+            }
+            std::size_t const before = storage.size();
+            IOption* const option = storage.option(list.c_str(), "d", kinds[below(6)], "g");
+            if (storage.size() > before) {
+                stored.push_back(option);
+                for (std::string const& n : storage.at(before).names()) {
+                    known.push_back(n);
+                }
+            }
+            if (!stored.empty() && below(4) == 0) {
+                std::string const synonym = below(3) == 0 && !known.empty() ? known[below(known.size())] : name();
+                stored[below(stored.size())]->synonym(synonym.c_str());
+                known.push_back(synonym);
+            }
+            if (!stored.empty() && below(10) == 0) {
+                stored[below(stored.size())]->positional();
+            }
+        }
+        return known;
+    }
+
+private:
+    std::mt19937 m_random;
+};
+
+struct Outcome {
+    int code = 0;
+    std::string message;
+    std::vector<AbbreviationParser::NameMatch> matches;
+    std::string best;
+};
+
+// The straightforward path: the whole candidate list, every candidate scored.
+Outcome byScan(RegisteredOptionStorage& storage, std::string const& typed) {
+    AbbreviationParser parser(nullptr, nullptr, 0);
+    std::vector<DecomposedName> names;
+    parser.makeOptionNamesList(storage, names);
+    std::vector<AbbreviationParser::NameMatch> matches;
+    parser.makeNameMatch(matches, DecomposedName(typed), names);
+    DecomposedName best;
+    Outcome outcome;
+    outcome.code = parser.findBest(matches, best, outcome.message);
+    outcome.matches = parser.bestMatches();
+    outcome.best = outcome.code == 0 ? best.getName() : "";
+    return outcome;
+}
+
+Outcome byIndex(AbbreviationParser& parser, RegisteredOptionStorage& storage, std::string const& typed) {
+    Outcome outcome;
+    std::size_t best = kNoOption;
+    outcome.code = parser.findBestIndexed(storage.names(), typed, best, outcome.message);
+    outcome.matches = parser.bestMatches();
+    outcome.best = outcome.code == 0 ? storage.names().candidate(best).text : "";
+    return outcome;
+}
+
+void expectSame(Outcome const& fast, Outcome const& reference, std::string const& typed) {
+    SCOPED_TRACE("typed name '" + typed + "'");
+    EXPECT_EQ(fast.code, reference.code);
+    EXPECT_EQ(fast.message, reference.message);
+    EXPECT_EQ(fast.best, reference.best);
+    ASSERT_EQ(fast.matches.size(), reference.matches.size());
+    for (std::size_t i = 0; i < fast.matches.size(); ++i) {
+        EXPECT_EQ(fast.matches[i].sameLength, reference.matches[i].sameLength);
+        EXPECT_EQ(fast.matches[i].score, reference.matches[i].score);
+        EXPECT_EQ(fast.matches[i].name.parts, reference.matches[i].name.parts);
+    }
+}
+
+// The recognizer's own steps around the choice, on the straightforward path.
+int recognizeByScan(RegisteredOptionStorage& storage, std::string const& argument, std::size_t& option,
+                    std::string& message) {
+    option = kNoOption;
+    if (argument.size() < 2 || argument[0] != '-') {
+        return 1;
+    }
+    std::size_t const hyphens = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
+    std::size_t const equals = argument.find('=');
+    std::string const typed =
+        argument.substr(hyphens, (equals == std::string::npos ? argument.size() : equals) - hyphens);
+    Outcome const outcome = byScan(storage, typed);
+    message = outcome.message;
+    if (outcome.code == 2) {
+        return 0;
+    }
+    if (outcome.code != 0) {
+        return 1;
+    }
+    unsigned long index = 0;
+    if (storage.scanForOption({outcome.best}, index) != 0) {
+        return 1;
+    }
+    option = index;
+    return 0;
+}
+
+}  // namespace
+
+TEST_F(FastPath, IndexedBestMatchEqualsScoringEveryCandidate) {
+    Corpus corpus(20261121);
+    int compared = 0;
+    for (int round = 0; round < 120; ++round) {
+        RegisteredOptionStorage storage;
+        std::vector<std::string> const known = corpus.populate(storage);
+        AbbreviationParser parser(nullptr, nullptr, 0);
+        for (int i = 0; i < 80; ++i) {
+            std::string const typed = corpus.typed(known);
+            expectSame(byIndex(parser, storage, typed), byScan(storage, typed), typed);
+            ++compared;
+        }
+        for (std::string const& name : known) {
+            expectSame(byIndex(parser, storage, name), byScan(storage, name), name);
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 10000);
+}
+
+TEST_F(FastPath, RecognizerAgreesWithScanOnEveryArgumentForm) {
+    Corpus corpus(7);
+    for (int round = 0; round < 60; ++round) {
+        RegisteredOptionStorage storage;
+        std::vector<std::string> const known = corpus.populate(storage);
+        AbbreviationParser parser(nullptr, nullptr, 0);
+        for (int i = 0; i < 60; ++i) {
+            std::string const typed = corpus.typed(known);
+            for (std::string const& argument :
+                 {"-" + typed, "--" + typed, "--" + typed + "=v", "---" + typed, typed, std::string("--")}) {
+                SCOPED_TRACE("argument '" + argument + "'");
+                std::string fastMessage;
+                ArgumentList args(std::vector<std::string>{argument, "next"});
+                int const fast = parser.recognize(args, storage, fastMessage);
+                std::size_t option = kNoOption;
+                std::string message;
+                int const reference = recognizeByScan(storage, argument, option, message);
+                EXPECT_EQ(fast, reference);
+                EXPECT_EQ(parser.optionIndex(), option);
+                EXPECT_EQ(fastMessage, message);
+                EXPECT_EQ(args.size(), 2u);
+            }
+        }
+    }
+}
+
+TEST_F(FastPath, IndexedNameLookupEqualsWalkingEveryOption) {
+    Corpus corpus(99);
+    for (int round = 0; round < 150; ++round) {
+        RegisteredOptionStorage storage;
+        std::vector<std::string> const known = corpus.populate(storage);
+        for (int i = 0; i < 60; ++i) {
+            std::vector<std::string> names;
+            std::size_t const count = 1 + corpus.below(3);
+            for (std::size_t j = 0; j < count; ++j) {
+                names.push_back(corpus.typed(known));
+            }
+            unsigned long fastIndex = 12345;
+            unsigned long scanIndex = 12345;
+            int const fast = storage.findOption(names, fastIndex);
+            EXPECT_EQ(fast, storage.scanForOption(names, scanIndex));
+            EXPECT_EQ(fastIndex, scanIndex);
+            unsigned long oneFast = 12345;
+            unsigned long oneScan = 12345;
+            EXPECT_EQ(storage.isAdded(names[0], oneFast), storage.scanForOption({names[0]}, oneScan));
+            EXPECT_EQ(oneFast, oneScan);
+        }
+    }
+}
+
+TEST_F(FastPath, KeptFirstPositionalEqualsWalkingEveryOption) {
+    Corpus corpus(5);
+    for (int round = 0; round < 300; ++round) {
+        RegisteredOptionStorage storage;
+        corpus.populate(storage);
+        std::size_t first = kNoOption;
+        for (std::size_t i = 0; i < storage.size() && first == kNoOption; ++i) {
+            if (storage.at(i).isPositional()) {
+                first = i;
+            }
+        }
+        EXPECT_EQ(storage.firstPositional(), first);
+    }
+}
+
+TEST_F(FastPath, SynonymOfARegisteredOptionReachesTheIndex) {
+    RegisteredOptionStorage storage;
+    IOption* const verbose = storage.option("verbose", "d", tarvo2::vt_bool, "g");
+    storage.option("version", "d", tarvo2::vt_int, "g");
+    verbose->synonym("loud");
+    AbbreviationParser parser(nullptr, nullptr, 0);
+    std::size_t best = kNoOption;
+    std::string message;
+    ASSERT_EQ(parser.findBestIndexed(storage.names(), "no-lo", best, message), 0);
+    EXPECT_EQ(storage.names().candidate(best).text, "no-loud");
+    EXPECT_EQ(storage.names().candidate(best).option, 0u);
+    unsigned long index = 9;
+    EXPECT_EQ(storage.isAdded("no-loud", index), 0);
+    EXPECT_EQ(index, 0u);
+}
+
+TEST_F(FastPath, CopyOfAStoredOptionDoesNotTouchTheIndex) {
+    RegisteredOptionStorage storage;
+    storage.option("alpha", "d", tarvo2::vt_int, "g");
+    quen_3_1::OptionDescription copy = storage.at(0);
+    copy.synonym("beta");
+    copy.positional();
+    unsigned long index = 9;
+    EXPECT_EQ(storage.isAdded("beta", index), 1);
+    EXPECT_EQ(storage.firstPositional(), kNoOption);
+    EXPECT_EQ(storage.names().size(), 1u);
+}
