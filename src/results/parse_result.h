@@ -56,6 +56,8 @@ private:
     using OptionMap = std::map<std::string, OptionData>;
 
     bool hasCurrent() const { return m_current != m_options.end(); }
+    template <class Query>
+    Value publicQuery(char const* name, Query query);
     int readDefault(char const** text, tarvo2::variant_t& value, int& number);
     int readNext(char const** text, tarvo2::variant_t& value, int& number);
     int nextValue(char const** text, tarvo2::variant_t& value, int& number);

@@ -126,12 +126,15 @@ bool ParseResult::present(char const* name, int from, int to) {
     return code == 0;
 }
 
-Value ParseResult::get(char const* name, int from, int to) {
+// The public form of a query: a Value, the not-found one on failure. A
+// standard exception in the wrapper itself (a null name) reads as status 1.
+template <class Query>
+Value ParseResult::publicQuery(char const* name, Query query) {
     try {
         std::string const key(name);
         char const* text = nullptr;
         Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
-        int const code = get(key, &text, result.m_value, from, to, result.m_index);
+        int const code = query(key, &text, result.m_value, result.m_index);
         if (code != 0) {
             return notFound(code);
         }
@@ -142,20 +145,15 @@ Value ParseResult::get(char const* name, int from, int to) {
     }
 }
 
+Value ParseResult::get(char const* name, int from, int to) {
+    return publicQuery(name, [this, from, to](std::string const& key, char const** text, tarvo2::variant_t& value,
+                                              int& number) { return get(key, text, value, from, to, number); });
+}
+
 Value ParseResult::next(char const* name) {
-    try {
-        std::string const key(name);
-        char const* text = nullptr;
-        Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
-        int const code = next(key, &text, result.m_value, result.m_index);
-        if (code != 0) {
-            return notFound(code);
-        }
-        result.m_text = text;
-        return result;
-    } catch (std::exception const&) {
-        return notFound(1);
-    }
+    return publicQuery(name, [this](std::string const& key, char const** text, tarvo2::variant_t& value, int& number) {
+        return next(key, text, value, number);
+    });
 }
 
 int ParseResult::nextPosition() {
