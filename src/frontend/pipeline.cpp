@@ -63,7 +63,7 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
             error = "Unknown option: " + args[0];
             return 2;
         }
-        internal::quenLog() << "ignoring " << args[0] << std::endl;
+        internal::trace("ignoring ", args[0]);
         args.popFront();
     }
     return 0;
@@ -83,7 +83,7 @@ int BasicParser::collectNonparsingArguments(std::string const& terminator, Argum
             if (result != nullptr) {
                 result->appendArgument(argument, number);
             }
-            internal::quenLog() << "collectNonparsingArguments: stored argument: '" << argument << "'" << std::endl;
+            internal::trace("collectNonparsingArguments: stored argument: '", argument, "'");
             if ((m_flags & FlagPositionalAfterTerminator) != 0) {
                 int const code = offerToPositional(argument, result, error);
                 if (code != 0) {
@@ -105,13 +105,12 @@ int BasicParser::offerToPositional(std::string const& argument, ParseResult* res
     PositionalOptionsParser positional(this, &m_garbage, m_flags & ~FlagNoHyphenPositional);
     ArgumentList single(std::vector<std::string>{argument});
     int code = positional.recognize(single, m_storage, error);
-    internal::quenLog() << "collectNonparsingArguments: recognize result: " << code << ", message: " << error
-                        << std::endl;
+    internal::trace("collectNonparsingArguments: recognize result: ", code, ", message: ", error);
     if (code != 0) {
         return 0;
     }
     code = positional.parse(single, result, m_storage, error);
-    internal::quenLog() << "collectNonparsingArguments: parse result: " << code << ", message: " << error << std::endl;
+    internal::trace("collectNonparsingArguments: parse result: ", code, ", message: ", error);
     return code;
 }
 

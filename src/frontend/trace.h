@@ -20,6 +20,18 @@ public:
 // The trace stream: standard output while tracing, a discarding stream otherwise.
 std::ostream& quenLog();
 
+// Writes one trace line made of `parts`, ended by std::endl. While tracing is
+// off the line would go to the discarding stream, so nothing is formatted at
+// all: recognition writes several lines per argument.
+template <class... Parts>
+void trace(Parts const&... parts) {
+    if (!quenLogEnabled) {
+        return;
+    }
+    std::ostream& out = quenLog();
+    (out << ... << parts) << std::endl;
+}
+
 }  // namespace internal
 }  // namespace quen_3_1
 

@@ -70,7 +70,7 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
     }
     unsigned long index = 0;
     if (findOption(names, index) == 0) {
-        internal::quenLog() << "An option with the same name is already registered: " << names[0] << std::endl;
+        internal::trace("An option with the same name is already registered: ", names[0]);
         std::cerr << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
         return 1;
     }

@@ -27,7 +27,7 @@ AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, 
 
 int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) {
     std::string const& argument = args[0];
-    internal::quenLog() << m_name << ": recognizing argument '" << argument << "'" << std::endl;
+    internal::trace(m_name, ": recognizing argument '", argument, "'");
     m_optionIndex = kNoOption;
     if (argument.size() < 2 || argument[0] != '-') {
         return 1;
@@ -37,16 +37,14 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
     std::size_t best = 0;
     int const found = findBestIndexed(storage.names(), typed, best, message);
     if (found == 2) {
-        internal::quenLog() << m_name << ": failed to get best match for '" << typed << "' in argument '" << argument
-                            << "':" << message << std::endl;
+        internal::trace(m_name, ": failed to get best match for '", typed, "' in argument '", argument, "':", message);
         return 0;
     }
     if (found != 0) {
         return 1;
     }
     std::string const& bestName = storage.names().candidate(best).text;
-    internal::quenLog() << m_name << ": best match option for '" << typed << "' in argument '" << argument << "' is '"
-                        << bestName << "'" << std::endl;
+    internal::trace(m_name, ": best match option for '", typed, "' in argument '", argument, "' is '", bestName, "'");
     unsigned long index = 0;
     if (storage.isAdded(bestName, index) != 0) {
         return 1;
@@ -58,7 +56,7 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
 int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
                               std::string& message) {
     std::string argument = args[0];
-    internal::quenLog() << m_name << ": parsing argument '" << argument << "'" << std::endl;
+    internal::trace(m_name, ": parsing argument '", argument, "'");
     std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
     std::string const typed = typedName(argument, hyphens);
     if (m_bestMatches.size() > 1) {
@@ -67,26 +65,26 @@ int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, R
         return 2;
     }
     OptionDescription const& option = storage.at(m_optionIndex);
-    internal::quenLog() << m_name << ": detected option: '" << option.primaryName() << "'" << std::endl;
+    internal::trace(m_name, ": detected option: '", option.primaryName(), "'");
     std::size_t consumed = 1;
     std::string value;
     std::size_t const equals = argument.find('=');
     if (equals != std::string::npos) {
         value = argument.substr(equals + 1);
-        internal::quenLog() << m_name << ": value from the same argument taken: '" << value << "'" << std::endl;
+        internal::trace(m_name, ": value from the same argument taken: '", value, "'");
     }
     int const code = decideValue(args, option, value, consumed, message);
     if (code != 0) {
         return code;
     }
     m_handler->onOptionParse(option.primaryName().c_str());
-    internal::quenLog() << m_name << ": sent event on option parsed" << std::endl;
+    internal::trace(m_name, ": sent event on option parsed");
     int const stored = parseValueAndAddOption(value, message, option, args, collector);
     if (stored != 0) {
         return stored;
     }
     for (std::size_t i = 0; i < consumed; ++i) {
-        internal::quenLog() << m_name << ": removing argument: '" << args[0] << "'" << std::endl;
+        internal::trace(m_name, ": removing argument: '", args[0], "'");
         args.popFront();
     }
     return 0;
@@ -121,7 +119,7 @@ int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const&
 int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
                                               std::size_t& consumed, std::string& message) {
     std::string argument = args[0];
-    internal::quenLog() << m_name << ": no value in the same argument, looking next" << std::endl;
+    internal::trace(m_name, ": no value in the same argument, looking next");
     if (args.size() == 1) {
         return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
     }
@@ -132,7 +130,7 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescript
                                  " or make sure that value is not missed");
     }
     consumed = 2;
-    internal::quenLog() << m_name << ": got value from the next argument: '" << value << "'" << std::endl;
+    internal::trace(m_name, ": got value from the next argument: '", value, "'");
     if (value.empty()) {
         return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
     }
@@ -141,7 +139,7 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescript
 
 int AbbreviationParser::fail(std::string& message, std::string text) {
     message = std::move(text);
-    internal::quenLog() << m_name << ": " << message << std::endl;
+    internal::trace(m_name, ": ", message);
     return 2;
 }
 

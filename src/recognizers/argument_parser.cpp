@@ -19,23 +19,23 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
     OptionData data;
     data.m_positions.push_back(takeNumber());
     if (!value.empty()) {
-        internal::quenLog() << m_name << ": adding values to result container:" << std::endl;
+        internal::trace(m_name, ": adding values to result container:");
         char const tokenizer = option.tokenizer();
         if (tokenizer != 0) {
-            internal::quenLog() << m_name << ": using tokenizer on char: '" << tokenizer << "'" << std::endl;
+            internal::trace(m_name, ": using tokenizer on char: '", tokenizer, "'");
             std::vector<std::string> pieces;
             splitAtSeparator(value, tokenizer, pieces);
             for (std::string& piece : pieces) {
-                internal::quenLog() << m_name << ": value is: '" << piece << "'" << std::endl;
+                internal::trace(m_name, ": value is: '", piece, "'");
                 int const code = addValue(piece, value, message, option, args, data);
                 if (code != 0) {
                     return code;
                 }
-                internal::quenLog() << m_name << ": sent event on value parsed, option: '" << option.primaryName()
-                                    << "', value: '" << piece << "'" << std::endl;
+                internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
+                                piece, "'");
             }
         } else {
-            internal::quenLog() << m_name << ": not using tokenizer" << std::endl;
+            internal::trace(m_name, ": not using tokenizer");
             std::string whole = value;
             int const code = addValue(whole, value, message, option, args, data);
             if (code != 0) {
@@ -46,7 +46,7 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
     if (collector != nullptr) {
         collector->store(option, data);
     }
-    internal::quenLog() << m_name << ": stored option to result container." << std::endl;
+    internal::trace(m_name, ": stored option to result container.");
     return 0;
 }
 
@@ -57,7 +57,7 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
     std::string reason;
     if (!option.validate(piece, converted, reason)) {
         message = "Value validation problem in argument '" + args[0] + "': " + reason;
-        internal::quenLog() << m_name << ": " << message << std::endl;
+        internal::trace(m_name, ": ", message);
         return 2;
     }
     std::int32_t const number = takeNumber();
@@ -65,7 +65,7 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
         message = "Value '" + whole + "' is not valid for option '" + option.primaryName() + "' in argument '" +
                   args[0] + "'";
-        internal::quenLog() << m_name << message << " One of the handler signaled the value is not valid." << std::endl;
+        internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return 1;
     }
     data.m_values.emplace_back(std::make_pair(piece, converted), number);

@@ -21,7 +21,7 @@ PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage*
 
 int PositionalOptionsParser::recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& /*message*/) {
     std::string const& argument = args[0];
-    internal::quenLog() << m_name << ": recognizing argument '" << argument << "'" << std::endl;
+    internal::trace(m_name, ": recognizing argument '", argument, "'");
     std::size_t const index = firstPositional(storage);
     if ((m_flags & FlagNoHyphenPositional) != 0 && !argument.empty() && argument[0] == '-') {
         return 1;
@@ -31,9 +31,9 @@ int PositionalOptionsParser::recognize(ArgumentList& args, RegisteredOptionStora
 
 int PositionalOptionsParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
                                    std::string& message) {
-    internal::quenLog() << m_name << ": parsing argument '" << args[0] << "'" << std::endl;
+    internal::trace(m_name, ": parsing argument '", args[0], "'");
     OptionDescription const& option = storage.at(firstPositional(storage));
-    internal::quenLog() << m_name << ": option is '" << option.primaryName() << "'" << std::endl;
+    internal::trace(m_name, ": option is '", option.primaryName(), "'");
     for (;;) {
         std::string value = args[0];
         m_handler->onOptionParse(option.primaryName().c_str());
@@ -41,7 +41,7 @@ int PositionalOptionsParser::parse(ArgumentList& args, IResultCollector* collect
         if (code != 0) {
             return code;
         }
-        internal::quenLog() << m_name << ": removing argument: '" << args[0] << "'" << std::endl;
+        internal::trace(m_name, ": removing argument: '", args[0], "'");
         args.popFront();
         if (args.empty() || (m_flags & FlagPositionalRun) == 0) {
             return 0;
