@@ -92,6 +92,8 @@ private:
         std::size_t index = 0;
         RegistryLink() = default;
         RegistryLink(RegistryLink const& /*other*/) {}
+        // Assignment keeps this description's own link, so assigning to itself changes nothing.
+        // NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
         RegistryLink& operator=(RegistryLink const& /*other*/) { return *this; }
         ~RegistryLink() = default;
     };
