@@ -104,6 +104,17 @@ void walkResult(quen_3_1::IParseResult* result, std::vector<std::string> const& 
     walkArguments(result, texts);
 }
 
+void parseTextAndReadBack(quen_3_1::IParser* parser, quen_3_1::IParseResult* result, std::string const& text,
+                          std::vector<std::string> const& names, HandedOut& texts) {
+    int const code = parser->parseStream(text.c_str(), result);
+    check(isLibraryCode(code) && code != 1, "parseStream returns a library code");
+    texts.keep(parser->getErrorDesc());
+    walkResult(result, names, texts);
+    texts.keep(parser->getDescription(false));
+    texts.keep(parser->getDescription(true));
+    texts.verifyReadable();
+}
+
 std::vector<std::string> splitArguments(std::uint8_t const* data, std::size_t size) {
     std::vector<std::string> args(1);
     for (std::size_t i = 0; i < size; ++i) {

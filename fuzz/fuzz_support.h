@@ -44,6 +44,11 @@ bool isLibraryCode(int code);
 // plain-argument iteration; checks that loops end and numbers grow.
 void walkResult(quen_3_1::IParseResult* result, std::vector<std::string> const& names, HandedOut& texts);
 
+// Parses `text` as an option text into `result`, checks the code, then walks
+// the result over `names` and reads the error and both help texts back.
+void parseTextAndReadBack(quen_3_1::IParser* parser, quen_3_1::IParseResult* result, std::string const& text,
+                          std::vector<std::string> const& names, HandedOut& texts);
+
 // Splits fuzz bytes into arguments at NUL and newline bytes.
 std::vector<std::string> splitArguments(std::uint8_t const* data, std::size_t size);
 

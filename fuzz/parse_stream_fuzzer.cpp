@@ -18,13 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         quen_3_1::IParseResult* result = nullptr;
         parser->createResult(&result);
         std::string const text(reinterpret_cast<char const*>(data), size);
-        int const code = parser->parseStream(text.c_str(), result);
-        quen_fuzz::check(quen_fuzz::isLibraryCode(code) && code != 1, "parseStream returns a library code");
-        texts.keep(parser->getErrorDesc());
-        quen_fuzz::walkResult(result, quen_fuzz::declaredNames(), texts);
-        texts.keep(parser->getDescription(false));
-        texts.keep(parser->getDescription(true));
-        texts.verifyReadable();
+        quen_fuzz::parseTextAndReadBack(parser, result, text, quen_fuzz::declaredNames(), texts);
         result->destroy();
         parser->destroy();
     }

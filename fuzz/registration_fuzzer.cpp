@@ -113,15 +113,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         parser->createResult(&result);
         char arg0[] = "prog";
         char* argv[] = {arg0};
-        int code = parser->parseArgsVector(1, argv, result);
-        quen_fuzz::check(code == 0, "defaults alone never fail");
-        code = parser->parseStream(text.c_str(), result);
-        quen_fuzz::check(quen_fuzz::isLibraryCode(code) && code != 1, "parseStream returns a library code");
-        texts.keep(parser->getErrorDesc());
-        quen_fuzz::walkResult(result, names, texts);
-        texts.keep(parser->getDescription(false));
-        texts.keep(parser->getDescription(true));
-        texts.verifyReadable();
+        quen_fuzz::check(parser->parseArgsVector(1, argv, result) == 0, "defaults alone never fail");
+        quen_fuzz::parseTextAndReadBack(parser, result, text, names, texts);
         result->destroy();
         parser->destroy();
     }
