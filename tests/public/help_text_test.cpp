@@ -5,18 +5,18 @@
 
 #include "quen_3_1/quen.h"
 #include "support/capture.h"
+#include "support/public_fixture.h"
 
 namespace {
 
 using quen_3_1::IOption;
 using quen_3_1::IParser;
-using quen_3_1::IParseResult;
 using tarvo2::variant_t;
 
-class HelpText : public ::testing::Test {
+class HelpText : public quen_test::PublicTest {
 protected:
     void SetUp() override {
-        resetTrace();
+        PublicTest::SetUp();
         ASSERT_EQ(quen_3_1::createParser(&m_parser, 0), 0);
     }
 
@@ -24,18 +24,7 @@ protected:
         if (m_parser != nullptr) {
             m_parser->destroy();
         }
-        resetTrace();
-    }
-
-    // Every parse switches tracing off unless its first argument turns it on.
-    static void resetTrace() {
-        IParser* parser = nullptr;
-        ASSERT_EQ(quen_3_1::createParser(&parser, 0), 0);
-        IParseResult* result = nullptr;
-        parser->createResult(&result);
-        parser->parseStream("", result);
-        result->destroy();
-        parser->destroy();
+        PublicTest::TearDown();
     }
 
     std::string help(bool hidden) { return m_parser->getDescription(hidden); }

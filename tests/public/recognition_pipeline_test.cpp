@@ -81,11 +81,9 @@ TEST_F(TraceSwitch, EmptyListStillSwitchesTracingOff) {
     ASSERT_EQ(harness.parseArgs({kTraceSwitch}), 0);
     ASSERT_EQ(harness.parseText(""), 0);
 
-    FdCapture out(1);
-    FdCapture err(2);
-    harness.option("v", tarvo2::vt_int);
-    EXPECT_EQ(out.finish(), "");
-    EXPECT_EQ(err.finish(), "v\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { harness.option("v", tarvo2::vt_int); });
+    EXPECT_EQ(written.out, "");
+    EXPECT_EQ(written.err, "v\n");
 }
 
 TEST_F(TraceSwitch, SwitchIsNeitherAnOptionNorAPlainArgument) {

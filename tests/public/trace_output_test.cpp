@@ -241,11 +241,9 @@ TEST_F(Trace, RegistrationAfterATracedParseIsTraced) {
     ASSERT_EQ(harness.parseArgs({kTraceSwitch}), 0);
     EXPECT_EQ(first.finish(), "");
 
-    FdCapture out(1);
-    FdCapture err(2);
-    harness.option("v", tarvo2::vt_int);
-    EXPECT_EQ(out.finish(), "An option with the same name is already registered: v\n");
-    EXPECT_EQ(err.finish(), "v\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { harness.option("v", tarvo2::vt_int); });
+    EXPECT_EQ(written.out, "An option with the same name is already registered: v\n");
+    EXPECT_EQ(written.err, "v\n");
 }
 
 TEST_F(Trace, ProgramNameAloneDoesNotSwitchTracingOff) {
@@ -255,11 +253,9 @@ TEST_F(Trace, ProgramNameAloneDoesNotSwitchTracingOff) {
     ArgvBuilder argv({"prog"});
     ASSERT_EQ(harness.parser()->parseArgsVector(argv.argc(), argv.argv(), harness.result()), 0);
 
-    FdCapture out(1);
-    FdCapture err(2);
-    harness.option("level,verbose", tarvo2::vt_int);
-    EXPECT_EQ(out.finish(), "An option with the same name is already registered: level\n");
-    EXPECT_EQ(err.finish(), "level\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { harness.option("level,verbose", tarvo2::vt_int); });
+    EXPECT_EQ(written.out, "An option with the same name is already registered: level\n");
+    EXPECT_EQ(written.err, "level\n");
 }
 
 TEST_F(Trace, ParseWithoutTheSwitchSwitchesRegistrationTracingOff) {
@@ -268,11 +264,9 @@ TEST_F(Trace, ParseWithoutTheSwitchSwitchesRegistrationTracingOff) {
     ASSERT_EQ(harness.parseArgs({kTraceSwitch}), 0);
     ASSERT_EQ(harness.parseArgs({"--v"}), 0);
 
-    FdCapture out(1);
-    FdCapture err(2);
-    harness.option("v", tarvo2::vt_int);
-    EXPECT_EQ(out.finish(), "");
-    EXPECT_EQ(err.finish(), "v\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { harness.option("v", tarvo2::vt_int); });
+    EXPECT_EQ(written.out, "");
+    EXPECT_EQ(written.err, "v\n");
 }
 
 }  // namespace

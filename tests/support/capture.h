@@ -24,6 +24,23 @@ private:
     int m_file;
 };
 
+// What a piece of code wrote to standard output and to standard error.
+struct Outputs {
+    std::string out;
+    std::string err;
+};
+
+template <class Body>
+Outputs outputsOf(Body body) {
+    FdCapture out(1);
+    FdCapture err(2);
+    body();
+    Outputs written;
+    written.out = out.finish();
+    written.err = err.finish();
+    return written;
+}
+
 }  // namespace quen_test
 
 #endif
