@@ -4,84 +4,26 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "frontend/basic_parser.h"
-#include "frontend/trace.h"
-#include "options/registered_option_storage.h"
 #include "recognizers/argument_list.h"
-#include "results/parse_result.h"
 #include "support/capture.h"
-#include "values/garbage.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::AbbreviationParser;
 using quen_3_1::ArgumentList;
-using quen_3_1::BasicParser;
-using quen_3_1::Garbage;
 using quen_3_1::OptionData;
-using quen_3_1::ParseResult;
-using quen_3_1::RegisteredOptionStorage;
+using quen_test::remaining;
+using quen_test::textsOf;
+using quen_test::traceOf;
 
 namespace {
 
 constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
 
-// Remembers the events the parser fans out.
-class Recorder final : public quen_3_1::EventHandler {
-public:
-    bool onOptionParse(char const* name) override {
-        options.emplace_back(name);
-        return true;
-    }
-    bool onValueParse(char const* name, quen_3_1::Value const& value) override {
-        values.push_back(std::string(name) + "=" + value.m_text);
-        return true;
-    }
-
-    std::vector<std::string> options;
-    std::vector<std::string> values;
-};
-
-std::vector<std::string> textsOf(OptionData const& data) {
-    std::vector<std::string> texts;
-    for (auto const& entry : data.m_values) {
-        texts.push_back(entry.first.first);
-    }
-    return texts;
-}
-
-std::vector<std::string> remaining(ArgumentList const& args) {
-    std::vector<std::string> rest;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        rest.push_back(args[i]);
-    }
-    return rest;
-}
-
-// Everything the recognizer writes to standard output while tracing is on.
-template <class Body>
-std::string traceOf(Body body) {
-    quen_test::FdCapture capture(1);
-    quen_3_1::internal::quenLogEnabled = true;
-    body();
-    quen_3_1::internal::quenLogEnabled = false;
-    return capture.finish();
-}
-
-class AbbreviationParsing : public ::testing::Test {
+class AbbreviationParsing : public quen_test::RecognizerTest {
 protected:
-    AbbreviationParsing() : parser(0), recognizer(&parser, &garbage, 0) {
-        storage.setGarbage(&garbage);
-        parser.addHandler(&recorder);
-    }
-
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-
-    quen_3_1::IOption* add(char const* names, quen_3_1::kel_variant_type_t type) {
-        return storage.option(names, "help", type, "general");
-    }
-
     // The options most tests share; indexes 0 to 4 in this order.
     void addCommon() {
         add("verbose", tarvo2::vt_bool);
@@ -104,15 +46,27 @@ protected:
         return parse(args);
     }
 
+    // The trace of recognizing the front argument, which must give `code`.
+    std::string traceOfRecognizing(ArgumentList& args, int code) {
+        return traceOf([&] { EXPECT_EQ(recognize(args), code); });
+    }
+
+    // Recognizing `argument` alone must take it as option `index` and trace `trace`.
+    void expectTakenAs(std::string const& argument, std::size_t index, char const* trace) {
+        ArgumentList args(std::vector<std::string>{argument});
+        EXPECT_EQ(traceOfRecognizing(args, 0), trace);
+        EXPECT_EQ(recognizer.optionIndex(), index);
+    }
+
+    // The trace of recognizing and parsing the front of `arguments`, which must give `code`.
+    std::string traceOfParsing(std::vector<std::string> arguments, int code) {
+        ArgumentList args(std::move(arguments));
+        return traceOf([&] { EXPECT_EQ(recognizeAndParse(args), code); });
+    }
+
     OptionData const& stored(std::string const& name) { return result.options().at(name); }
 
-    BasicParser parser;
-    Garbage garbage;
-    RegisteredOptionStorage storage;
-    ParseResult result;
-    Recorder recorder;
-    AbbreviationParser recognizer;
-    std::string message;
+    AbbreviationParser recognizer{&parser, &garbage, 0};
 };
 
 }  // namespace
@@ -145,53 +99,40 @@ TEST_F(AbbreviationParsing, LoneHyphenAndPlainWordsAreNotTaken) {
 
 TEST_F(AbbreviationParsing, TypedNameEndsAtFirstEquals) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--lev=3=4"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
-              "AbbreviationParser: recognizing argument '--lev=3=4'\n"
-              "AbbreviationParser: best match option for 'lev' in argument '--lev=3=4' is 'level'\n");
-    EXPECT_EQ(recognizer.optionIndex(), 2U);
+    expectTakenAs("--lev=3=4", 2U,
+                  "AbbreviationParser: recognizing argument '--lev=3=4'\n"
+                  "AbbreviationParser: best match option for 'lev' in argument '--lev=3=4' is 'level'\n");
 }
 
 TEST_F(AbbreviationParsing, SingleHyphenTypedName) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"-n"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
-              "AbbreviationParser: recognizing argument '-n'\n"
-              "AbbreviationParser: best match option for 'n' in argument '-n' is 'name'\n");
-    EXPECT_EQ(recognizer.optionIndex(), 4U);
+    expectTakenAs("-n", 4U,
+                  "AbbreviationParser: recognizing argument '-n'\n"
+                  "AbbreviationParser: best match option for 'n' in argument '-n' is 'name'\n");
 }
 
 TEST_F(AbbreviationParsing, ThirdHyphenBelongsToTheName) {
     add("level", tarvo2::vt_int);
     add("xray", tarvo2::vt_bool);
-    ArgumentList args(std::vector<std::string>{"---x"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
     // "-x" has an empty first part, a prefix of "no".
-    EXPECT_EQ(trace,
-              "AbbreviationParser: recognizing argument '---x'\n"
-              "AbbreviationParser: best match option for '-x' in argument '---x' is 'no-xray'\n");
-    EXPECT_EQ(recognizer.optionIndex(), 1U);
+    expectTakenAs("---x", 1U,
+                  "AbbreviationParser: recognizing argument '---x'\n"
+                  "AbbreviationParser: best match option for '-x' in argument '---x' is 'no-xray'\n");
 }
 
 TEST_F(AbbreviationParsing, TerminatorMatchesEveryTwoPartName) {
     add("level", tarvo2::vt_int);
     add("log-file", tarvo2::vt_str);
-    ArgumentList args(std::vector<std::string>{"--"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
-              "AbbreviationParser: recognizing argument '--'\n"
-              "AbbreviationParser: best match option for '-' in argument '--' is 'log-file'\n");
-    EXPECT_EQ(recognizer.optionIndex(), 1U);
+    expectTakenAs("--", 1U,
+                  "AbbreviationParser: recognizing argument '--'\n"
+                  "AbbreviationParser: best match option for '-' in argument '--' is 'log-file'\n");
 }
 
 TEST_F(AbbreviationParsing, UniqueMatchIsTakenWithItsIndex) {
     addCommon();
     ArgumentList args(std::vector<std::string>{"--verb", "next"});
     message = "untouched";
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfRecognizing(args, 0),
               "AbbreviationParser: recognizing argument '--verb'\n"
               "AbbreviationParser: best match option for 'verb' in argument '--verb' is 'verbose'\n");
     EXPECT_EQ(recognizer.optionIndex(), 0U);
@@ -201,19 +142,15 @@ TEST_F(AbbreviationParsing, UniqueMatchIsTakenWithItsIndex) {
 
 TEST_F(AbbreviationParsing, NoFormIsTakenForItsBoolean) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--no-verb"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
-              "AbbreviationParser: recognizing argument '--no-verb'\n"
-              "AbbreviationParser: best match option for 'no-verb' in argument '--no-verb' is 'no-verbose'\n");
-    EXPECT_EQ(recognizer.optionIndex(), 0U);
+    expectTakenAs("--no-verb", 0U,
+                  "AbbreviationParser: recognizing argument '--no-verb'\n"
+                  "AbbreviationParser: best match option for 'no-verb' in argument '--no-verb' is 'no-verbose'\n");
 }
 
 TEST_F(AbbreviationParsing, AmbiguityIsTakenSoThatParseReportsIt) {
     addCommon();
     ArgumentList args(std::vector<std::string>{"--ve"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfRecognizing(args, 0),
               "AbbreviationParser: recognizing argument '--ve'\n"
               "AbbreviationParser: failed to get best match for 've' in argument '--ve':Ambiguous option, possible "
               "options are: 'verbose', 'version'\n");
@@ -226,8 +163,7 @@ TEST_F(AbbreviationParsing, NoMatchIsNotTaken) {
     addCommon();
     ArgumentList args(std::vector<std::string>{"--zzz"});
     message = "untouched";
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognize(args), 1); });
-    EXPECT_EQ(trace, "AbbreviationParser: recognizing argument '--zzz'\n");
+    EXPECT_EQ(traceOfRecognizing(args, 1), "AbbreviationParser: recognizing argument '--zzz'\n");
     EXPECT_EQ(message, "untouched");
     EXPECT_EQ(recognizer.optionIndex(), kNoOption);
 }
@@ -505,9 +441,7 @@ TEST_F(AbbreviationParsing, AmbiguousTerminatorShowsEmptyName) {
 
 TEST_F(AbbreviationParsing, TraceOfValueFromNextArgument) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--level", "3"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--level", "3"}, 0),
               "AbbreviationParser: recognizing argument '--level'\n"
               "AbbreviationParser: best match option for 'level' in argument '--level' is 'level'\n"
               "AbbreviationParser: parsing argument '--level'\n"
@@ -526,9 +460,7 @@ TEST_F(AbbreviationParsing, TraceOfValueFromNextArgument) {
 
 TEST_F(AbbreviationParsing, TraceOfValueAfterEquals) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"-lev=3", "x"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"-lev=3", "x"}, 0),
               "AbbreviationParser: recognizing argument '-lev=3'\n"
               "AbbreviationParser: best match option for 'lev' in argument '-lev=3' is 'level'\n"
               "AbbreviationParser: parsing argument '-lev=3'\n"
@@ -545,9 +477,7 @@ TEST_F(AbbreviationParsing, TraceOfValueAfterEquals) {
 
 TEST_F(AbbreviationParsing, TraceOfNothingAfterEqualsThenNextArgument) {
     add("name", tarvo2::vt_str)->tokenize(0);
-    ArgumentList args(std::vector<std::string>{"--name=", "a,b"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--name=", "a,b"}, 0),
               "AbbreviationParser: recognizing argument '--name='\n"
               "AbbreviationParser: best match option for 'name' in argument '--name=' is 'name'\n"
               "AbbreviationParser: parsing argument '--name='\n"
@@ -566,9 +496,7 @@ TEST_F(AbbreviationParsing, TraceOfNothingAfterEqualsThenNextArgument) {
 
 TEST_F(AbbreviationParsing, TraceOfNoForm) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--no-verb"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--no-verb"}, 0),
               "AbbreviationParser: recognizing argument '--no-verb'\n"
               "AbbreviationParser: best match option for 'no-verb' in argument '--no-verb' is 'no-verbose'\n"
               "AbbreviationParser: parsing argument '--no-verb'\n"
@@ -584,9 +512,7 @@ TEST_F(AbbreviationParsing, TraceOfNoForm) {
 
 TEST_F(AbbreviationParsing, TraceOfNoValueOption) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--fl", "x"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 0); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--fl", "x"}, 0),
               "AbbreviationParser: recognizing argument '--fl'\n"
               "AbbreviationParser: best match option for 'fl' in argument '--fl' is 'flag'\n"
               "AbbreviationParser: parsing argument '--fl'\n"
@@ -598,9 +524,7 @@ TEST_F(AbbreviationParsing, TraceOfNoValueOption) {
 
 TEST_F(AbbreviationParsing, TraceOfBooleanWithValue) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--verbose=1"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--verbose=1"}, 2),
               "AbbreviationParser: recognizing argument '--verbose=1'\n"
               "AbbreviationParser: best match option for 'verbose' in argument '--verbose=1' is 'verbose'\n"
               "AbbreviationParser: parsing argument '--verbose=1'\n"
@@ -612,9 +536,7 @@ TEST_F(AbbreviationParsing, TraceOfBooleanWithValue) {
 
 TEST_F(AbbreviationParsing, TraceOfValueForNoValueOption) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--flag=x"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--flag=x"}, 2),
               "AbbreviationParser: recognizing argument '--flag=x'\n"
               "AbbreviationParser: best match option for 'flag' in argument '--flag=x' is 'flag'\n"
               "AbbreviationParser: parsing argument '--flag=x'\n"
@@ -625,9 +547,7 @@ TEST_F(AbbreviationParsing, TraceOfValueForNoValueOption) {
 
 TEST_F(AbbreviationParsing, TraceOfMissingValueAtTheEnd) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--level"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--level"}, 2),
               "AbbreviationParser: recognizing argument '--level'\n"
               "AbbreviationParser: best match option for 'level' in argument '--level' is 'level'\n"
               "AbbreviationParser: parsing argument '--level'\n"
@@ -638,9 +558,7 @@ TEST_F(AbbreviationParsing, TraceOfMissingValueAtTheEnd) {
 
 TEST_F(AbbreviationParsing, TraceOfNextArgumentLookingLikeOption) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--level", "-3"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--level", "-3"}, 2),
               "AbbreviationParser: recognizing argument '--level'\n"
               "AbbreviationParser: best match option for 'level' in argument '--level' is 'level'\n"
               "AbbreviationParser: parsing argument '--level'\n"
@@ -652,9 +570,7 @@ TEST_F(AbbreviationParsing, TraceOfNextArgumentLookingLikeOption) {
 
 TEST_F(AbbreviationParsing, TraceOfEmptyNextArgument) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--level", ""});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--level", ""}, 2),
               "AbbreviationParser: recognizing argument '--level'\n"
               "AbbreviationParser: best match option for 'level' in argument '--level' is 'level'\n"
               "AbbreviationParser: parsing argument '--level'\n"
@@ -666,9 +582,7 @@ TEST_F(AbbreviationParsing, TraceOfEmptyNextArgument) {
 
 TEST_F(AbbreviationParsing, TraceOfInvalidValue) {
     addCommon();
-    ArgumentList args(std::vector<std::string>{"--level=abc"});
-    std::string const trace = traceOf([&] { EXPECT_EQ(recognizeAndParse(args), 2); });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing({"--level=abc"}, 2),
               "AbbreviationParser: recognizing argument '--level=abc'\n"
               "AbbreviationParser: best match option for 'level' in argument '--level=abc' is 'level'\n"
               "AbbreviationParser: parsing argument '--level=abc'\n"

@@ -17,6 +17,7 @@
 #include "results/parse_result.h"
 #include "results/result_collector.h"
 #include "support/capture.h"
+#include "support/internal_fixture.h"
 #include "values/garbage.h"
 
 namespace {
@@ -32,7 +33,7 @@ using quen_3_1::OptionDescription;
 using quen_3_1::ParseResult;
 using quen_3_1::RegisteredOptionStorage;
 using quen_3_1::Value;
-using quen_3_1::ValueEntry;
+using quen_test::textsOf;
 
 // The bare base with the shared routine made reachable.
 class ProbeRecognizer final : public IArgumentParser {
@@ -113,10 +114,10 @@ public:
     int vetoAt = 0;
 };
 
-class ArgumentParserTest : public ::testing::Test {
+class ArgumentParserTest : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         quen_3_1::IParser* parser = nullptr;
         ASSERT_EQ(quen_3_1::createParser(&parser, 0), 0);
         m_parser = dynamic_cast<BasicParser*>(parser);
@@ -134,7 +135,7 @@ protected:
         delete m_collector;
         m_result->destroy();
         m_parser->destroy();
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::TearDown();
     }
 
     OptionDescription& declare(char const* names, tarvo2::kel_variant_type_t type) {
@@ -150,13 +151,10 @@ protected:
         return code;
     }
 
-    // Runs the routine with the trace switched on and returns what reached standard output.
-    std::string traced(std::string value, OptionDescription const& option, std::string const& argument, int& code) {
-        quen_test::FdCapture capture(1);
-        quen_3_1::internal::quenLogEnabled = true;
-        code = run(std::move(value), option, argument);
-        quen_3_1::internal::quenLogEnabled = false;
-        return capture.finish();
+    // Runs the routine with the trace switched on; it must give `code`. Returns
+    // what reached standard output.
+    std::string traced(std::string value, OptionDescription const& option, std::string const& argument, int code) {
+        return quen_test::traceOf([&] { EXPECT_EQ(run(std::move(value), option, argument), code); });
     }
 
     Garbage m_garbage;
@@ -167,14 +165,6 @@ protected:
     ValueWatcher m_watcher;
     std::string m_message;
 };
-
-std::vector<std::string> textsOf(std::vector<ValueEntry> const& values) {
-    std::vector<std::string> texts;
-    for (ValueEntry const& value : values) {
-        texts.push_back(value.first.first);
-    }
-    return texts;
-}
 
 TEST_F(ArgumentParserTest, TokenMessageQuotesTheArgument) {
     std::string token = "--x";
@@ -388,10 +378,7 @@ TEST_F(ArgumentParserTest, HandlerVetoWithoutTokenizer) {
 
 TEST_F(ArgumentParserTest, TraceOfASplitValue) {
     OptionDescription const& option = declare("n", tarvo2::vt_int);
-    int code = -1;
-    std::string const out = traced("1,2", option, "--n=1,2", code);
-    EXPECT_EQ(code, 0);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("1,2", option, "--n=1,2", 0),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: using tokenizer on char: ','\n"
               "UndefinedParser: value is: '1'\n"
@@ -404,10 +391,7 @@ TEST_F(ArgumentParserTest, TraceOfASplitValue) {
 TEST_F(ArgumentParserTest, TraceOfAnAbbreviatedValue) {
     OptionDescription& option = declare("mode", tarvo2::vt_str);
     option.allowValue(tarvo2::variant_t("fast"))->allowValue(tarvo2::variant_t("small"));
-    int code = -1;
-    std::string const out = traced("s", option, "--mode=s", code);
-    EXPECT_EQ(code, 0);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("s", option, "--mode=s", 0),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: using tokenizer on char: ','\n"
               "UndefinedParser: value is: 's'\n"
@@ -417,19 +401,13 @@ TEST_F(ArgumentParserTest, TraceOfAnAbbreviatedValue) {
 
 TEST_F(ArgumentParserTest, TraceOfAnEmptyValue) {
     OptionDescription const& option = declare("quiet", tarvo2::vt_empty);
-    int code = -1;
-    std::string const out = traced("", option, "--quiet", code);
-    EXPECT_EQ(code, 0);
-    EXPECT_EQ(out, "UndefinedParser: stored option to result container.\n");
+    EXPECT_EQ(traced("", option, "--quiet", 0), "UndefinedParser: stored option to result container.\n");
 }
 
 TEST_F(ArgumentParserTest, TraceWithoutTokenizer) {
     OptionDescription& option = declare("path", tarvo2::vt_str);
     option.tokenize(0);
-    int code = -1;
-    std::string const out = traced("a,b", option, "--path=a,b", code);
-    EXPECT_EQ(code, 0);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("a,b", option, "--path=a,b", 0),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: not using tokenizer\n"
               "UndefinedParser: stored option to result container.\n");
@@ -437,10 +415,7 @@ TEST_F(ArgumentParserTest, TraceWithoutTokenizer) {
 
 TEST_F(ArgumentParserTest, TraceOfAValidationFailure) {
     OptionDescription const& option = declare("level", tarvo2::vt_int);
-    int code = -1;
-    std::string const out = traced("x", option, "--level=x", code);
-    EXPECT_EQ(code, 2);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("x", option, "--level=x", 2),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: using tokenizer on char: ','\n"
               "UndefinedParser: value is: 'x'\n"
@@ -451,10 +426,7 @@ TEST_F(ArgumentParserTest, TraceOfAValidationFailure) {
 TEST_F(ArgumentParserTest, TraceOfAVeto) {
     OptionDescription const& option = declare("n", tarvo2::vt_int);
     m_watcher.vetoAt = 2;
-    int code = -1;
-    std::string const out = traced("1,2,3", option, "--n=1,2,3", code);
-    EXPECT_EQ(code, 1);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("1,2,3", option, "--n=1,2,3", 1),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: using tokenizer on char: ','\n"
               "UndefinedParser: value is: '1'\n"
@@ -468,10 +440,7 @@ TEST_F(ArgumentParserTest, TraceOfAVetoWithoutTokenizer) {
     OptionDescription& option = declare("path", tarvo2::vt_str);
     option.tokenize(0);
     m_watcher.vetoAt = 1;
-    int code = -1;
-    std::string const out = traced("a,b", option, "--path=a,b", code);
-    EXPECT_EQ(code, 1);
-    EXPECT_EQ(out,
+    EXPECT_EQ(traced("a,b", option, "--path=a,b", 1),
               "UndefinedParser: adding values to result container:\n"
               "UndefinedParser: not using tokenizer\n"
               "UndefinedParserValue 'a,b' is not valid for option 'path' in argument '--path=a,b' One of the handler "

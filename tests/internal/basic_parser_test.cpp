@@ -11,6 +11,7 @@
 #include "options/option_description.h"
 #include "quen_3_1/quen.h"
 #include "results/parse_result.h"
+#include "support/internal_fixture.h"
 
 namespace {
 
@@ -41,11 +42,7 @@ public:
     int calls = 0;
 };
 
-class BasicParserTest : public ::testing::Test {
-protected:
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-};
+class BasicParserTest : public quen_test::InternalTest {};
 
 // A freshly created parser seen as the implementation class.
 BasicParser* newParser(int flags) {

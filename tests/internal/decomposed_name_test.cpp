@@ -13,39 +13,26 @@ using Parts = std::vector<std::string>;
 
 }  // namespace
 
-TEST(DecomposedName, HyphenSeparatesParts) {
-    DecomposedName const name("log-file");
-    EXPECT_EQ(name.parts, (Parts{"log", "file"}));
-}
-
-TEST(DecomposedName, NameWithoutHyphenIsOnePart) {
-    DecomposedName const name("verbose");
-    EXPECT_EQ(name.parts, (Parts{"verbose"}));
-}
-
-TEST(DecomposedName, DoubleHyphenLeavesEmptyMiddlePart) {
-    DecomposedName const name("a--b");
-    EXPECT_EQ(name.parts, (Parts{"a", "", "b"}));
-}
-
-TEST(DecomposedName, LeadingHyphenGivesEmptyFirstPart) {
-    DecomposedName const name("-x");
-    EXPECT_EQ(name.parts, (Parts{"", "x"}));
-}
-
-TEST(DecomposedName, TrailingHyphenGivesEmptyLastPart) {
-    DecomposedName const name("x-");
-    EXPECT_EQ(name.parts, (Parts{"x", ""}));
-}
-
-TEST(DecomposedName, EmptyTextGivesOneEmptyPart) {
-    DecomposedName const name("");
-    EXPECT_EQ(name.parts, (Parts{""}));
-}
-
-TEST(DecomposedName, LoneHyphenGivesTwoEmptyParts) {
-    DecomposedName const name("-");
-    EXPECT_EQ(name.parts, (Parts{"", ""}));
+TEST(DecomposedName, EveryHyphenSeparatesTwoParts) {
+    struct Case {
+        char const* behaviour;
+        char const* text;
+        Parts parts;
+    };
+    Case const cases[] = {
+        {"hyphen separates parts", "log-file", {"log", "file"}},
+        {"name without hyphen is one part", "verbose", {"verbose"}},
+        {"double hyphen leaves an empty middle part", "a--b", {"a", "", "b"}},
+        {"leading hyphen gives an empty first part", "-x", {"", "x"}},
+        {"trailing hyphen gives an empty last part", "x-", {"x", ""}},
+        {"empty text gives one empty part", "", {""}},
+        {"lone hyphen gives two empty parts", "-", {"", ""}},
+    };
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.behaviour);
+        DecomposedName const name(c.text);
+        EXPECT_EQ(name.parts, c.parts);
+    }
 }
 
 TEST(DecomposedName, PartCountIsHyphenCountPlusOne) {

@@ -10,6 +10,7 @@
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
 #include "quen_3_1/quen.h"
+#include "support/internal_fixture.h"
 
 namespace {
 
@@ -55,10 +56,10 @@ private:
     void record(char const* event, char const* text) { log->push_back(Call{this, event, text}); }
 };
 
-class EventFanoutTest : public ::testing::Test {
+class EventFanoutTest : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         ASSERT_EQ(quen_3_1::createParser(&m_parser, 0), 0);
         // Elements of one array: handlers[0] is below handlers[1] in pointer order.
         for (RecordingHandler& handler : handlers) {
@@ -67,7 +68,7 @@ protected:
     }
     void TearDown() override {
         m_parser->destroy();
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::TearDown();
     }
 
     // Registers the handlers in the reverse of their pointer order.

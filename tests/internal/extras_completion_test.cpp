@@ -15,6 +15,7 @@
 #include "options/registered_option_storage.h"
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/decomposed_name.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::AbbreviationParser;
 using quen_3_1::BasicParser;
@@ -72,11 +73,8 @@ private:
     std::string m_path;
 };
 
-class CompletionScriptTest : public ::testing::Test {
+class CompletionScriptTest : public quen_test::InternalTest {
 protected:
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-
     // Names that stress the part-wise scoring: shared prefixes, a name and its
     // abbreviation, a non-boolean "no-" name, empty parts.
     void registerTrickyNames() {

@@ -7,15 +7,16 @@
 #include "extras/environment_source.h"
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::BasicParser;
 
 namespace {
 
-class EnvironmentSource : public ::testing::Test {
+class EnvironmentSource : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         parser.option("log-file", "", tarvo2::vt_str, "g");
         parser.option("verbose", "", tarvo2::vt_bool, "g");
         parser.option("dry-run", "", tarvo2::vt_bool, "g");
@@ -24,7 +25,6 @@ protected:
         parser.option("debug-dump", "", tarvo2::vt_str, "quen_hidden");
         parser.option("files", "", tarvo2::vt_str, "g")->positional();
     }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
 
     // Reads from `variables` and remembers every name asked for.
     int read(std::string const& prefix) {

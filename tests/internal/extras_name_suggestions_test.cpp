@@ -6,6 +6,7 @@
 #include "extras/name_suggestions.h"
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::BasicParser;
 
@@ -13,10 +14,10 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class NameSuggestions : public ::testing::Test {
+class NameSuggestions : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         parser.option("verbose", "", tarvo2::vt_bool, "g");
         parser.option("version", "", tarvo2::vt_empty, "g");
         parser.option("log-file", "", tarvo2::vt_str, "g");
@@ -25,7 +26,6 @@ protected:
         parser.option("output", "", tarvo2::vt_str, "g")->synonym("out");
         parser.option("debug-dump", "", tarvo2::vt_str, "quen_hidden");
     }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
 
     Names closest(std::string const& typed, std::size_t max = 10) {
         return quen_3_1::closestNames(parser.storage(), typed, max);

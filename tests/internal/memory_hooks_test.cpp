@@ -69,6 +69,23 @@ protected:
         EXPECT_EQ(allocations(), releases());
     }
 
+    // The variant `make` gives must take exactly one block of `bytes`, keep it
+    // while it lives and give that same block back when it goes.
+    template <class Make>
+    void expectOneBlockOf(std::size_t bytes, Make make) {
+        void* block = nullptr;
+        {
+            variant_t const v = make();
+            ASSERT_EQ(allocations(), 1u);
+            EXPECT_EQ(m_ledger.requested[0], bytes);
+            block = payloadPointer(v);
+            EXPECT_EQ(releases(), 0u);
+        }
+        ASSERT_EQ(releases(), 1u);
+        EXPECT_EQ(m_ledger.released[0], block);
+        expectBalanced();
+    }
+
     HookLedger m_ledger;
     variant_t::hooks_t m_saved{};
 };
@@ -123,43 +140,15 @@ TEST_F(MemoryHooks, NullTextsAllocateAndReleaseNothing) {
 }
 
 TEST_F(MemoryHooks, TextAllocatesLengthPlusTerminatorOnce) {
-    void* block = nullptr;
-    {
-        variant_t const v("hello");
-        ASSERT_EQ(allocations(), 1u);
-        EXPECT_EQ(m_ledger.requested[0], 6u);
-        block = payloadPointer(v);
-        EXPECT_EQ(releases(), 0u);
-    }
-    ASSERT_EQ(releases(), 1u);
-    EXPECT_EQ(m_ledger.released[0], block);
-    expectBalanced();
+    expectOneBlockOf(6u, [] { return variant_t("hello"); });
 }
 
 TEST_F(MemoryHooks, WideTextAllocatesFourBytesPerCharacter) {
-    void* block = nullptr;
-    {
-        variant_t const v(L"wide");
-        ASSERT_EQ(allocations(), 1u);
-        EXPECT_EQ(m_ledger.requested[0], 20u);
-        block = payloadPointer(v);
-    }
-    ASSERT_EQ(releases(), 1u);
-    EXPECT_EQ(m_ledger.released[0], block);
-    expectBalanced();
+    expectOneBlockOf(20u, [] { return variant_t(L"wide"); });
 }
 
 TEST_F(MemoryHooks, BlobAllocatesCountPlusBytes) {
-    void* block = nullptr;
-    {
-        variant_t const v = variant_t::blob("12345", 5);
-        ASSERT_EQ(allocations(), 1u);
-        EXPECT_EQ(m_ledger.requested[0], 9u);
-        block = payloadPointer(v);
-    }
-    ASSERT_EQ(releases(), 1u);
-    EXPECT_EQ(m_ledger.released[0], block);
-    expectBalanced();
+    expectOneBlockOf(9u, [] { return variant_t::blob("12345", 5); });
 }
 
 TEST_F(MemoryHooks, EmptyBlobStillOwnsItsCount) {

@@ -8,6 +8,7 @@
 #include "options/registered_option_storage.h"
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/decomposed_name.h"
+#include "support/internal_fixture.h"
 #include "values/garbage.h"
 
 using quen_3_1::AbbreviationParser;
@@ -35,19 +36,22 @@ std::vector<std::string> namesOf(std::vector<NameMatch> const& matches) {
     return out;
 }
 
-class NameMatching : public ::testing::Test {
+class NameMatching : public quen_test::InternalTest {
 protected:
     NameMatching() : parser(0), recognizer(&parser, &garbage, 0) { storage.setGarbage(&garbage); }
 
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-
     void add(char const* names, quen_3_1::kel_variant_type_t type) { storage.option(names, "help", type, "general"); }
 
-    // The whole chain recognize runs for one typed name.
-    int choose(std::string const& typed, DecomposedName& best, std::string& message) {
+    // Every registered name, as recognize lists the candidates.
+    std::vector<DecomposedName> candidates() {
         std::vector<DecomposedName> names;
         recognizer.makeOptionNamesList(storage, names);
+        return names;
+    }
+
+    // The whole chain recognize runs for one typed name; it may set `best` and `message`.
+    int choose(std::string const& typed) {
+        std::vector<DecomposedName> const names = candidates();
         std::vector<NameMatch> matches;
         recognizer.makeNameMatch(matches, DecomposedName(typed), names);
         return recognizer.findBest(matches, best, message);
@@ -68,6 +72,8 @@ protected:
     Garbage garbage;
     RegisteredOptionStorage storage;
     AbbreviationParser recognizer;
+    DecomposedName best;
+    std::string message;
 };
 
 }  // namespace
@@ -78,8 +84,7 @@ TEST_F(NameMatching, CandidateListHoldsEveryNameInRegistrationOrder) {
     add("level,lv", tarvo2::vt_int);
     add("output", tarvo2::vt_str);
     add("flag", tarvo2::vt_empty);
-    std::vector<DecomposedName> names;
-    recognizer.makeOptionNamesList(storage, names);
+    std::vector<DecomposedName> const names = candidates();
     EXPECT_EQ(namesOf(names), (std::vector<std::string>{"level", "lv", "output", "flag"}));
 }
 
@@ -87,8 +92,7 @@ TEST_F(NameMatching, BooleanNoFormFollowsItsName) {
     add("level", tarvo2::vt_int);
     add("verbose", tarvo2::vt_bool);
     add("flag", tarvo2::vt_empty);
-    std::vector<DecomposedName> names;
-    recognizer.makeOptionNamesList(storage, names);
+    std::vector<DecomposedName> const names = candidates();
     EXPECT_EQ(namesOf(names), (std::vector<std::string>{"level", "verbose", "no-verbose", "flag"}));
     ASSERT_EQ(names.size(), 4U);
     EXPECT_EQ(names[2].parts, (std::vector<std::string>{"no", "verbose"}));
@@ -96,16 +100,14 @@ TEST_F(NameMatching, BooleanNoFormFollowsItsName) {
 
 TEST_F(NameMatching, EveryBooleanNameAndSynonymHasItsNoForm) {
     storage.option("verbose,vb", "help", tarvo2::vt_bool, "general")->synonym("loud");
-    std::vector<DecomposedName> names;
-    recognizer.makeOptionNamesList(storage, names);
+    std::vector<DecomposedName> const names = candidates();
     EXPECT_EQ(namesOf(names), (std::vector<std::string>{"verbose", "no-verbose", "vb", "no-vb", "loud", "no-loud"}));
 }
 
 TEST_F(NameMatching, SynonymsFollowTheFirstName) {
     storage.option("output,o", "help", tarvo2::vt_str, "general")->synonym("out");
     add("level", tarvo2::vt_int);
-    std::vector<DecomposedName> names;
-    recognizer.makeOptionNamesList(storage, names);
+    std::vector<DecomposedName> const names = candidates();
     EXPECT_EQ(namesOf(names), (std::vector<std::string>{"output", "o", "out", "level"}));
 }
 
@@ -119,8 +121,7 @@ TEST_F(NameMatching, CandidateListIsAppendedNotCleared) {
 }
 
 TEST_F(NameMatching, EmptyRegistryAddsNoCandidate) {
-    std::vector<DecomposedName> names;
-    recognizer.makeOptionNamesList(storage, names);
+    std::vector<DecomposedName> const names = candidates();
     EXPECT_TRUE(names.empty());
 }
 
@@ -201,9 +202,8 @@ TEST_F(NameMatching, MatchesKeepCandidateOrderAndAreAppended) {
 TEST_F(NameMatching, CommonPrefixOfTwoOptionsIsAmbiguous) {
     add("verbose", tarvo2::vt_empty);
     add("version", tarvo2::vt_empty);
-    DecomposedName best("untouched");
-    std::string message;
-    EXPECT_EQ(choose("ver", best, message), 2);
+    best = DecomposedName("untouched");
+    EXPECT_EQ(choose("ver"), 2);
     EXPECT_EQ(message, "Ambiguous option, possible options are: 'verbose', 'version'");
     EXPECT_EQ(best.getName(), "untouched");
     ASSERT_EQ(recognizer.bestMatches().size(), 2U);
@@ -214,9 +214,8 @@ TEST_F(NameMatching, CommonPrefixOfTwoOptionsIsAmbiguous) {
 TEST_F(NameMatching, FullNamePicksItsOption) {
     add("verbose", tarvo2::vt_empty);
     add("version", tarvo2::vt_empty);
-    DecomposedName best;
-    std::string message = "before";
-    EXPECT_EQ(choose("verbose", best, message), 0);
+    message = "before";
+    EXPECT_EQ(choose("verbose"), 0);
     EXPECT_EQ(best.getName(), "verbose");
     EXPECT_EQ(message, "before");
     ASSERT_EQ(recognizer.bestMatches().size(), 1U);
@@ -226,18 +225,14 @@ TEST_F(NameMatching, FullNamePicksItsOption) {
 TEST_F(NameMatching, LongerPrefixIsUnique) {
     add("verbose", tarvo2::vt_empty);
     add("version", tarvo2::vt_empty);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("vers", best, message), 0);
+    EXPECT_EQ(choose("vers"), 0);
     EXPECT_EQ(best.getName(), "version");
     EXPECT_EQ(message, "");
 }
 
 TEST_F(NameMatching, EveryPartMayBeAbbreviated) {
     add("log-file", tarvo2::vt_str);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("l-f", best, message), 0);
+    EXPECT_EQ(choose("l-f"), 0);
     EXPECT_EQ(best.getName(), "log-file");
     ASSERT_EQ(recognizer.bestMatches().size(), 1U);
     EXPECT_EQ(recognizer.bestMatches()[0].score, 2);
@@ -245,9 +240,9 @@ TEST_F(NameMatching, EveryPartMayBeAbbreviated) {
 
 TEST_F(NameMatching, FewerPartsFindNothing) {
     add("log-file", tarvo2::vt_str);
-    DecomposedName best("untouched");
-    std::string message = "untouched";
-    EXPECT_EQ(choose("log", best, message), 1);
+    best = DecomposedName("untouched");
+    message = "untouched";
+    EXPECT_EQ(choose("log"), 1);
     EXPECT_EQ(best.getName(), "untouched");
     EXPECT_EQ(message, "untouched");
     EXPECT_TRUE(recognizer.bestMatches().empty());
@@ -256,21 +251,17 @@ TEST_F(NameMatching, FewerPartsFindNothing) {
 TEST_F(NameMatching, ExactPartBeatsPrefix) {
     add("add-file", tarvo2::vt_str);
     add("a-file", tarvo2::vt_str);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("a-file", best, message), 0);
+    EXPECT_EQ(choose("a-file"), 0);
     EXPECT_EQ(best.getName(), "a-file");
     ASSERT_EQ(recognizer.bestMatches().size(), 1U);
     EXPECT_EQ(recognizer.bestMatches()[0].score, 4);
-    EXPECT_EQ(choose("ad-file", best, message), 0);
+    EXPECT_EQ(choose("ad-file"), 0);
     EXPECT_EQ(best.getName(), "add-file");
 }
 
 TEST_F(NameMatching, AbbreviatedNoFormOfBoolean) {
     add("verbose", tarvo2::vt_bool);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("no-v", best, message), 0);
+    EXPECT_EQ(choose("no-v"), 0);
     EXPECT_EQ(best.getName(), "no-verbose");
     ASSERT_EQ(recognizer.bestMatches().size(), 1U);
     EXPECT_EQ(recognizer.bestMatches()[0].score, 3);
@@ -278,33 +269,26 @@ TEST_F(NameMatching, AbbreviatedNoFormOfBoolean) {
 
 TEST_F(NameMatching, SinglePartNeverMatchesNoForm) {
     add("verbose", tarvo2::vt_bool);
-    DecomposedName best;
-    std::string message = "untouched";
-    EXPECT_EQ(choose("n", best, message), 1);
+    message = "untouched";
+    EXPECT_EQ(choose("n"), 1);
     EXPECT_EQ(message, "untouched");
 }
 
 TEST_F(NameMatching, PrefixOfNameAndSynonymIsAmbiguous) {
     storage.option("output", "help", tarvo2::vt_str, "general")->synonym("out");
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("ou", best, message), 2);
+    EXPECT_EQ(choose("ou"), 2);
     EXPECT_EQ(message, "Ambiguous option, possible options are: 'output', 'out'");
 }
 
 TEST_F(NameMatching, FullSynonymBeatsLongerName) {
     storage.option("output", "help", tarvo2::vt_str, "general")->synonym("out");
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("out", best, message), 0);
+    EXPECT_EQ(choose("out"), 0);
     EXPECT_EQ(best.getName(), "out");
 }
 
 TEST_F(NameMatching, TieBetweenNamesOfOneOptionIsStillAmbiguous) {
     add("colour,color", tarvo2::vt_str);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("col", best, message), 2);
+    EXPECT_EQ(choose("col"), 2);
     EXPECT_EQ(message, "Ambiguous option, possible options are: 'colour', 'color'");
 }
 
@@ -313,9 +297,7 @@ TEST_F(NameMatching, AmbiguityListsEveryTiedCandidateInListOrder) {
     add("alpha", tarvo2::vt_empty);
     add("beta", tarvo2::vt_empty);
     add("alps", tarvo2::vt_empty);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("al", best, message), 2);
+    EXPECT_EQ(choose("al"), 2);
     EXPECT_EQ(message, "Ambiguous option, possible options are: 'alto', 'alpha', 'alps'");
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"alto", "alpha", "alps"}));
 }
@@ -323,16 +305,14 @@ TEST_F(NameMatching, AmbiguityListsEveryTiedCandidateInListOrder) {
 TEST_F(NameMatching, EmptyTypedPartMatchesThreePartName) {
     add("add-some-bytes", tarvo2::vt_str);
     add("log-file", tarvo2::vt_str);
-    DecomposedName best;
-    std::string message;
-    EXPECT_EQ(choose("a--b", best, message), 0);
+    EXPECT_EQ(choose("a--b"), 0);
     EXPECT_EQ(best.getName(), "add-some-bytes");
 }
 
 TEST_F(NameMatching, EmptyRegistryFindsNothingAndKeepsMessage) {
-    DecomposedName best("untouched");
-    std::string message = "previous message";
-    EXPECT_EQ(choose("verbose", best, message), 1);
+    best = DecomposedName("untouched");
+    message = "previous message";
+    EXPECT_EQ(choose("verbose"), 1);
     EXPECT_EQ(message, "previous message");
     EXPECT_EQ(best.getName(), "untouched");
     EXPECT_TRUE(recognizer.bestMatches().empty());
@@ -341,31 +321,27 @@ TEST_F(NameMatching, EmptyRegistryFindsNothingAndKeepsMessage) {
 TEST_F(NameMatching, BestMatchesAreRebuiltOnEveryCall) {
     add("verbose", tarvo2::vt_empty);
     add("version", tarvo2::vt_empty);
-    DecomposedName best;
-    std::string message;
-    ASSERT_EQ(choose("ver", best, message), 2);
+    ASSERT_EQ(choose("ver"), 2);
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"verbose", "version"}));
-    ASSERT_EQ(choose("vers", best, message), 0);
+    ASSERT_EQ(choose("vers"), 0);
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"version"}));
-    ASSERT_EQ(choose("zzz", best, message), 1);
+    ASSERT_EQ(choose("zzz"), 1);
     EXPECT_TRUE(recognizer.bestMatches().empty());
-    ASSERT_EQ(choose("verb", best, message), 0);
+    ASSERT_EQ(choose("verb"), 0);
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"verbose"}));
 }
 
 TEST_F(NameMatching, RecordsOfOtherLengthAreSkippedWhateverTheirScore) {
     std::vector<NameMatch> const matches{NameMatch{false, 9, DecomposedName("a-b")},
                                          NameMatch{true, 1, DecomposedName("alpha")}};
-    DecomposedName best;
-    std::string message;
     EXPECT_EQ(recognizer.findBest(matches, best, message), 0);
     EXPECT_EQ(best.getName(), "alpha");
 }
 
 TEST_F(NameMatching, OnlyOtherLengthRecordsFindNothing) {
     std::vector<NameMatch> const matches{NameMatch{false, 2, DecomposedName("log-file")}};
-    DecomposedName best("untouched");
-    std::string message = "untouched";
+    best = DecomposedName("untouched");
+    message = "untouched";
     EXPECT_EQ(recognizer.findBest(matches, best, message), 1);
     EXPECT_EQ(best.getName(), "untouched");
     EXPECT_EQ(message, "untouched");
@@ -375,8 +351,6 @@ TEST_F(NameMatching, HigherScoreReplacesEarlierTies) {
     std::vector<NameMatch> const matches{
         NameMatch{true, 1, DecomposedName("alpha")}, NameMatch{true, 1, DecomposedName("alps")},
         NameMatch{true, 2, DecomposedName("al")}, NameMatch{true, 1, DecomposedName("alto")}};
-    DecomposedName best;
-    std::string message;
     EXPECT_EQ(recognizer.findBest(matches, best, message), 0);
     EXPECT_EQ(best.getName(), "al");
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"al"}));

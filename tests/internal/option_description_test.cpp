@@ -11,6 +11,7 @@
 
 #include "frontend/trace.h"
 #include "options/registered_option_storage.h"
+#include "support/internal_fixture.h"
 #include "values/garbage.h"
 
 using quen_3_1::Garbage;
@@ -23,13 +24,12 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class OptionDescriptionTest : public ::testing::Test {
+class OptionDescriptionTest : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         m_storage.setGarbage(&m_keeper);
     }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
 
     // Registers one option and gives both the host's pointer and the stored description.
     IOption* declare(char const* names, tarvo2::kel_variant_type_t type) {

@@ -8,16 +8,13 @@
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
 #include "options/option_description.h"
+#include "support/internal_fixture.h"
 
 namespace {
 
 using quen_3_1::BasicParser;
 
-class ParagraphString : public ::testing::Test {
-protected:
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-};
+class ParagraphString : public quen_test::InternalTest {};
 
 std::string spaces(std::size_t count) { return std::string(count, ' '); }
 

@@ -15,6 +15,7 @@
 #include "recognizers/argument_parser.h"
 #include "results/option_data.h"
 #include "results/parse_result.h"
+#include "support/internal_fixture.h"
 #include "values/garbage.h"
 
 namespace {
@@ -62,13 +63,12 @@ std::vector<std::string> textsOf(std::vector<ValueEntry> const& values) {
     return texts;
 }
 
-class ParseResultStoreTest : public ::testing::Test {
+class ParseResultStoreTest : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         m_storage.setGarbage(&m_garbage);
     }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
 
     OptionData const& at(std::string const& name) const { return m_result.options().at(name); }
     bool has(std::string const& name) const { return m_result.options().count(name) != 0; }

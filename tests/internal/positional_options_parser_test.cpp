@@ -3,83 +3,24 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "frontend/basic_parser.h"
-#include "frontend/trace.h"
-#include "options/registered_option_storage.h"
 #include "recognizers/argument_list.h"
-#include "results/parse_result.h"
 #include "support/capture.h"
-#include "values/garbage.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::ArgumentList;
-using quen_3_1::BasicParser;
-using quen_3_1::Garbage;
 using quen_3_1::OptionData;
-using quen_3_1::ParseResult;
 using quen_3_1::PositionalOptionsParser;
-using quen_3_1::RegisteredOptionStorage;
+using quen_test::remaining;
+using quen_test::textsOf;
+using quen_test::traceOf;
 
 namespace {
 
-// Remembers the events the parser fans out; can refuse every value.
-class Recorder final : public quen_3_1::EventHandler {
-public:
-    bool onOptionParse(char const* name) override {
-        options.emplace_back(name);
-        return true;
-    }
-    bool onValueParse(char const* name, quen_3_1::Value const& value) override {
-        values.push_back(std::string(name) + "=" + value.m_text);
-        return accept;
-    }
-
-    std::vector<std::string> options;
-    std::vector<std::string> values;
-    bool accept = true;
-};
-
-std::vector<std::string> textsOf(OptionData const& data) {
-    std::vector<std::string> texts;
-    for (auto const& entry : data.m_values) {
-        texts.push_back(entry.first.first);
-    }
-    return texts;
-}
-
-std::vector<std::string> remaining(ArgumentList const& args) {
-    std::vector<std::string> rest;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        rest.push_back(args[i]);
-    }
-    return rest;
-}
-
-// Everything the recognizer writes to standard output while tracing is on.
-template <class Body>
-std::string traceOf(Body body) {
-    quen_test::FdCapture capture(1);
-    quen_3_1::internal::quenLogEnabled = true;
-    body();
-    quen_3_1::internal::quenLogEnabled = false;
-    return capture.finish();
-}
-
-class PositionalOptions : public ::testing::Test {
+class PositionalOptions : public quen_test::RecognizerTest {
 protected:
-    PositionalOptions() : parser(0) {
-        storage.setGarbage(&garbage);
-        parser.addHandler(&recorder);
-    }
-
-    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
-
-    quen_3_1::IOption* add(char const* names, quen_3_1::kel_variant_type_t type) {
-        return storage.option(names, "help", type, "general");
-    }
-
     int recognize(PositionalOptionsParser& recognizer, ArgumentList& args) {
         return recognizer.recognize(args, storage, message);
     }
@@ -88,12 +29,21 @@ protected:
         return recognizer.parse(args, &result, storage, message);
     }
 
-    BasicParser parser;
-    Garbage garbage;
-    RegisteredOptionStorage storage;
-    ParseResult result;
-    Recorder recorder;
-    std::string message;
+    // What the pipeline does with an argument this recognizer takes.
+    int recognizeAndParse(PositionalOptionsParser& recognizer, ArgumentList& args) {
+        int const taken = recognize(recognizer, args);
+        EXPECT_EQ(taken, 0) << args[0];
+        if (taken != 0) {
+            return -1;
+        }
+        return parse(recognizer, args);
+    }
+
+    // The trace of recognizing and parsing the front of `arguments`, which must give `code`.
+    std::string traceOfParsing(PositionalOptionsParser& recognizer, std::vector<std::string> arguments, int code) {
+        ArgumentList args(std::move(arguments));
+        return traceOf([&] { EXPECT_EQ(recognizeAndParse(recognizer, args), code); });
+    }
 };
 
 }  // namespace
@@ -138,15 +88,13 @@ TEST_F(PositionalOptions, EachPlainArgumentIsItsOwnOccurrence) {
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a", "b"});
 
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"b"}));
     ASSERT_EQ(result.options().count("file"), 1U);
     EXPECT_EQ(result.options().at("file").m_positions.size(), 1U);
     EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"a"}));
 
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
 
     OptionData const& data = result.options().at("file");
@@ -167,8 +115,7 @@ TEST_F(PositionalOptions, HyphenArgumentIsTakenWithoutNoHyphenFlag) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"--zzz"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
     EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"--zzz"}));
 }
@@ -188,8 +135,7 @@ TEST_F(PositionalOptions, EmptyArgumentIsOccurrenceWithoutValue) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{""});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
     OptionData const& data = result.options().at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
@@ -202,8 +148,7 @@ TEST_F(PositionalOptions, EmptyArgumentIsTakenAlsoWithNoHyphenFlag) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagNoHyphenPositional);
     ArgumentList args(std::vector<std::string>{""});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
     OptionData const& data = result.options().at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
@@ -214,8 +159,7 @@ TEST_F(PositionalOptions, WithoutRunFlagOneParseTakesOneArgument) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a", "b", "c"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"b", "c"}));
 }
 
@@ -224,8 +168,7 @@ TEST_F(PositionalOptions, RunFlagTakesAllTheRestInOneParse) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagPositionalRun);
     ArgumentList args(std::vector<std::string>{"a", "-x", "--level", "", "b"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
     OptionData const& data = result.options().at("file");
     EXPECT_EQ(data.m_positions.size(), 5U);
@@ -238,8 +181,7 @@ TEST_F(PositionalOptions, ValueIsTakenWholeAndSplitByTokenizer) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"--name=x,y"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     OptionData const& data = result.options().at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
     EXPECT_EQ(textsOf(data), (std::vector<std::string>{"--name=x", "y"}));
@@ -252,8 +194,7 @@ TEST_F(PositionalOptions, OnlyFirstPositionalOptionIsFilled) {
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a", "b", "c"});
     while (!args.empty()) {
-        ASSERT_EQ(recognize(recognizer, args), 0);
-        ASSERT_EQ(parse(recognizer, args), 0);
+        ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     }
     EXPECT_EQ(textsOf(result.options().at("first")), (std::vector<std::string>{"a", "b", "c"}));
     EXPECT_EQ(result.options().count("second"), 0U);
@@ -264,8 +205,7 @@ TEST_F(PositionalOptions, PositionalOptionIsStoredUnderEveryName) {
     add("file,f", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"a"}));
     EXPECT_EQ(textsOf(result.options().at("f")), (std::vector<std::string>{"a"}));
     EXPECT_EQ(recorder.options, (std::vector<std::string>{"file"}));
@@ -275,8 +215,7 @@ TEST_F(PositionalOptions, IntegerPositionalConvertsItsValue) {
     add("count", tarvo2::vt_int)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"42"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    ASSERT_EQ(parse(recognizer, args), 0);
+    ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     OptionData const& data = result.options().at("count");
     ASSERT_EQ(data.m_values.size(), 1U);
     EXPECT_EQ(data.m_values[0].first.second.m_type, tarvo2::vt_int);
@@ -287,8 +226,7 @@ TEST_F(PositionalOptions, InvalidValueFailsAndKeepsTheArgument) {
     add("count", tarvo2::vt_int)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"abc", "7"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    EXPECT_EQ(parse(recognizer, args), 2);
+    EXPECT_EQ(recognizeAndParse(recognizer, args), 2);
     EXPECT_EQ(message,
               "Value validation problem in argument 'abc': Option 'count' can not parse 'abc' value, requires a type "
               "'integer' here.");
@@ -300,8 +238,7 @@ TEST_F(PositionalOptions, RunStopsAtInvalidValueKeepingEarlierOnes) {
     add("count", tarvo2::vt_int)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagPositionalRun);
     ArgumentList args(std::vector<std::string>{"1", "abc", "3"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    EXPECT_EQ(parse(recognizer, args), 2);
+    EXPECT_EQ(recognizeAndParse(recognizer, args), 2);
     EXPECT_EQ(message,
               "Value validation problem in argument 'abc': Option 'count' can not parse 'abc' value, requires a type "
               "'integer' here.");
@@ -314,8 +251,7 @@ TEST_F(PositionalOptions, HandlerVetoFailsWithOneAndKeepsTheArgument) {
     recorder.accept = false;
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a"});
-    ASSERT_EQ(recognize(recognizer, args), 0);
-    EXPECT_EQ(parse(recognizer, args), 1);
+    EXPECT_EQ(recognizeAndParse(recognizer, args), 1);
     EXPECT_EQ(message, "Value 'a' is not valid for option 'file' in argument 'a'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"a"}));
     EXPECT_TRUE(result.options().empty());
@@ -326,12 +262,7 @@ TEST_F(PositionalOptions, HandlerVetoFailsWithOneAndKeepsTheArgument) {
 TEST_F(PositionalOptions, TraceOfStoredArgument) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
-    ArgumentList args(std::vector<std::string>{"a", "b"});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 0);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {"a", "b"}, 0),
               "PositionalOptionsParser: recognizing argument 'a'\n"
               "PositionalOptionsParser: parsing argument 'a'\n"
               "PositionalOptionsParser: option is 'file'\n"
@@ -346,12 +277,7 @@ TEST_F(PositionalOptions, TraceOfStoredArgument) {
 TEST_F(PositionalOptions, TraceWithoutTokenizer) {
     add("file", tarvo2::vt_str)->positional()->tokenize(0);
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
-    ArgumentList args(std::vector<std::string>{"a,b"});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 0);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {"a,b"}, 0),
               "PositionalOptionsParser: recognizing argument 'a,b'\n"
               "PositionalOptionsParser: parsing argument 'a,b'\n"
               "PositionalOptionsParser: option is 'file'\n"
@@ -365,12 +291,7 @@ TEST_F(PositionalOptions, TraceWithoutTokenizer) {
 TEST_F(PositionalOptions, TraceOfEmptyArgument) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagNoHyphenPositional);
-    ArgumentList args(std::vector<std::string>{""});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 0);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {""}, 0),
               "PositionalOptionsParser: recognizing argument ''\n"
               "PositionalOptionsParser: parsing argument ''\n"
               "PositionalOptionsParser: option is 'file'\n"
@@ -381,12 +302,7 @@ TEST_F(PositionalOptions, TraceOfEmptyArgument) {
 TEST_F(PositionalOptions, TraceOfRun) {
     add("file", tarvo2::vt_str)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagPositionalRun);
-    ArgumentList args(std::vector<std::string>{"a", "-x"});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 0);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {"a", "-x"}, 0),
               "PositionalOptionsParser: recognizing argument 'a'\n"
               "PositionalOptionsParser: parsing argument 'a'\n"
               "PositionalOptionsParser: option is 'file'\n"
@@ -415,12 +331,7 @@ TEST_F(PositionalOptions, TraceOfRefusedArgument) {
 TEST_F(PositionalOptions, TraceOfValidationFailure) {
     add("count", tarvo2::vt_int)->positional();
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
-    ArgumentList args(std::vector<std::string>{"abc"});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 2);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {"abc"}, 2),
               "PositionalOptionsParser: recognizing argument 'abc'\n"
               "PositionalOptionsParser: parsing argument 'abc'\n"
               "PositionalOptionsParser: option is 'count'\n"
@@ -435,12 +346,7 @@ TEST_F(PositionalOptions, TraceOfHandlerVeto) {
     add("file", tarvo2::vt_str)->positional();
     recorder.accept = false;
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
-    ArgumentList args(std::vector<std::string>{"a"});
-    std::string const trace = traceOf([&] {
-        EXPECT_EQ(recognize(recognizer, args), 0);
-        EXPECT_EQ(parse(recognizer, args), 1);
-    });
-    EXPECT_EQ(trace,
+    EXPECT_EQ(traceOfParsing(recognizer, {"a"}, 1),
               "PositionalOptionsParser: recognizing argument 'a'\n"
               "PositionalOptionsParser: parsing argument 'a'\n"
               "PositionalOptionsParser: option is 'file'\n"
@@ -456,8 +362,7 @@ TEST_F(PositionalOptions, NothingIsWrittenWhileTracingIsOff) {
     PositionalOptionsParser recognizer(&parser, &garbage, quen_3_1::FlagPositionalRun);
     ArgumentList args(std::vector<std::string>{"a", "b"});
     quen_test::FdCapture capture(1);
-    EXPECT_EQ(recognize(recognizer, args), 0);
-    EXPECT_EQ(parse(recognizer, args), 0);
+    EXPECT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_EQ(capture.finish(), "");
     EXPECT_TRUE(args.empty());
 }

@@ -11,6 +11,7 @@
 
 #include "frontend/trace.h"
 #include "support/capture.h"
+#include "support/internal_fixture.h"
 #include "values/garbage.h"
 
 using quen_3_1::Garbage;
@@ -27,13 +28,12 @@ using Groups = std::vector<std::pair<std::string, std::string>>;
 
 std::string const kNul(1, '\0');
 
-class Registry : public ::testing::Test {
+class Registry : public quen_test::InternalTest {
 protected:
     void SetUp() override {
-        quen_3_1::internal::quenLogEnabled = false;
+        InternalTest::SetUp();
         m_storage.setGarbage(&m_keeper);
     }
-    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
 
     IOption* add(char const* names, tarvo2::kel_variant_type_t type = tarvo2::vt_int, char const* group = "general") {
         return m_storage.option(names, "help", type, group);
@@ -247,34 +247,28 @@ TEST_F(Registry, NonBooleanHasNoNoForm) {
 
 TEST_F(Registry, ClashReportsTheFirstNameOnStandardError) {
     add("verbose,v", tarvo2::vt_bool);
-    FdCapture out(1);
-    FdCapture err(2);
-    add("v");
-    add("quiet,verbose");
-    EXPECT_EQ(err.finish(), "v\nquiet\n");
-    EXPECT_EQ(out.finish(), "");
+    quen_test::Outputs const written = quen_test::outputsOf([&] {
+        add("v");
+        add("quiet,verbose");
+    });
+    EXPECT_EQ(written.err, "v\nquiet\n");
+    EXPECT_EQ(written.out, "");
 }
 
 TEST_F(Registry, ClashIsTracedWhileTheSwitchIsOn) {
     add("verbose,v", tarvo2::vt_bool);
     quen_3_1::internal::quenLogEnabled = true;
-    FdCapture out(1);
-    FdCapture err(2);
-    add("v");
-    std::string const errors = err.finish();
-    EXPECT_EQ(out.finish(), "An option with the same name is already registered: v\n");
-    EXPECT_EQ(errors, "v\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { add("v"); });
+    EXPECT_EQ(written.out, "An option with the same name is already registered: v\n");
+    EXPECT_EQ(written.err, "v\n");
 }
 
 TEST_F(Registry, ClashOnALaterNameStillReportsTheFirst) {
     add("verbose,v", tarvo2::vt_bool);
     quen_3_1::internal::quenLogEnabled = true;
-    FdCapture out(1);
-    FdCapture err(2);
-    add("talk,v");
-    std::string const errors = err.finish();
-    EXPECT_EQ(out.finish(), "An option with the same name is already registered: talk\n");
-    EXPECT_EQ(errors, "talk\n");
+    quen_test::Outputs const written = quen_test::outputsOf([&] { add("talk,v"); });
+    EXPECT_EQ(written.out, "An option with the same name is already registered: talk\n");
+    EXPECT_EQ(written.err, "talk\n");
 }
 
 TEST_F(Registry, ValidateNameCodes) {

@@ -11,6 +11,7 @@
 
 #include "frontend/ustring.h"
 #include "support/capture.h"
+#include "support/internal_fixture.h"
 
 using quen_3_1::internal::basic_nullbuf;
 using quen_3_1::internal::quenLog;
@@ -19,11 +20,7 @@ using quen_test::FdCapture;
 
 namespace {
 
-class Trace : public ::testing::Test {
-protected:
-    void SetUp() override { quenLogEnabled = false; }
-    void TearDown() override { quenLogEnabled = false; }
-};
+class Trace : public quen_test::InternalTest {};
 
 }  // namespace
 

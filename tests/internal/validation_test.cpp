@@ -34,6 +34,9 @@ protected:
         return m_option;
     }
 
+    // A text option whose allowed values are the ones kModes lists.
+    void declareModes() { option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")}); }
+
     Outcome check(char const* text) const {
         Outcome outcome{false, text, variant_t(), std::string()};
         outcome.accepted = m_option.validate(outcome.text, outcome.value, outcome.message);
@@ -158,7 +161,7 @@ TEST_F(Validation, NumbersAreNeverAbbreviated) {
 // ---------------------------------------------------------------- text abbreviations
 
 TEST_F(Validation, UniqueBeginningBecomesTheAllowedText) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("s");
     EXPECT_TRUE(outcome.accepted);
     EXPECT_EQ(outcome.text, "small");
@@ -168,7 +171,7 @@ TEST_F(Validation, UniqueBeginningBecomesTheAllowedText) {
 }
 
 TEST_F(Validation, LongerUniqueBeginning) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("fa");
     EXPECT_TRUE(outcome.accepted);
     EXPECT_EQ(outcome.text, "fast");
@@ -176,7 +179,7 @@ TEST_F(Validation, LongerUniqueBeginning) {
 }
 
 TEST_F(Validation, ExactTextIsAcceptedAsWritten) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("full");
     EXPECT_TRUE(outcome.accepted);
     EXPECT_EQ(outcome.text, "full");
@@ -184,7 +187,7 @@ TEST_F(Validation, ExactTextIsAcceptedAsWritten) {
 }
 
 TEST_F(Validation, SharedBeginningIsAmbiguous) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("f");
     EXPECT_FALSE(outcome.accepted);
     EXPECT_EQ(outcome.message, "Ambiguous value for option 'mode'. Possible values follows: " + kModes);
@@ -195,7 +198,7 @@ TEST_F(Validation, SharedBeginningIsAmbiguous) {
 }
 
 TEST_F(Validation, CaseMatters) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("Fast");
     EXPECT_FALSE(outcome.accepted);
     EXPECT_EQ(outcome.message, "Option 'mode' does not allow value 'Fast'. Possible values follows: " + kModes);
@@ -203,7 +206,7 @@ TEST_F(Validation, CaseMatters) {
 }
 
 TEST_F(Validation, TextLongerThanEveryAllowedTextIsRefused) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("fastest");
     EXPECT_FALSE(outcome.accepted);
     EXPECT_EQ(outcome.message,
@@ -211,7 +214,7 @@ TEST_F(Validation, TextLongerThanEveryAllowedTextIsRefused) {
 }
 
 TEST_F(Validation, EmptyTextWithSeveralAllowedValuesIsAmbiguous) {
-    option("mode", tarvo2::vt_str, {variant_t("fast"), variant_t("full"), variant_t("small")});
+    declareModes();
     Outcome const outcome = check("");
     EXPECT_FALSE(outcome.accepted);
     EXPECT_EQ(outcome.message, "Ambiguous value for option 'mode'. Possible values follows: 'fast', 'full', 'small'");

@@ -1,0 +1,101 @@
+#ifndef QUEN_TESTS_SUPPORT_INTERNAL_FIXTURE_H
+#define QUEN_TESTS_SUPPORT_INTERNAL_FIXTURE_H
+
+// Helpers for tests of internal classes; they include headers from src/, so
+// only tests/internal may use them.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "frontend/basic_parser.h"
+#include "frontend/trace.h"
+#include "options/registered_option_storage.h"
+#include "recognizers/argument_list.h"
+#include "results/option_data.h"
+#include "results/parse_result.h"
+#include "support/capture.h"
+#include "values/garbage.h"
+
+namespace quen_test {
+
+// Leaves tracing off before and after every test, whatever order they run in.
+class InternalTest : public ::testing::Test {
+protected:
+    void SetUp() override { quen_3_1::internal::quenLogEnabled = false; }
+    void TearDown() override { quen_3_1::internal::quenLogEnabled = false; }
+};
+
+// Everything written to standard output while `body` runs with tracing on.
+template <class Body>
+std::string traceOf(Body body) {
+    FdCapture capture(1);
+    quen_3_1::internal::quenLogEnabled = true;
+    body();
+    quen_3_1::internal::quenLogEnabled = false;
+    return capture.finish();
+}
+
+// The arguments a recognizer left, in order.
+inline std::vector<std::string> remaining(quen_3_1::ArgumentList const& args) {
+    std::vector<std::string> rest;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        rest.push_back(args[i]);
+    }
+    return rest;
+}
+
+// The texts of stored value entries, in order.
+inline std::vector<std::string> textsOf(std::vector<quen_3_1::ValueEntry> const& values) {
+    std::vector<std::string> texts;
+    for (quen_3_1::ValueEntry const& value : values) {
+        texts.push_back(value.first.first);
+    }
+    return texts;
+}
+
+inline std::vector<std::string> textsOf(quen_3_1::OptionData const& data) { return textsOf(data.m_values); }
+
+// Remembers the option and value events a parser fans out; refuses every
+// value while `accept` is false.
+class EventRecorder final : public quen_3_1::EventHandler {
+public:
+    bool onOptionParse(char const* name) override {
+        options.emplace_back(name);
+        return true;
+    }
+    bool onValueParse(char const* name, quen_3_1::Value const& value) override {
+        values.push_back(std::string(name) + "=" + value.m_text);
+        return accept;
+    }
+
+    std::vector<std::string> options;
+    std::vector<std::string> values;
+    bool accept = true;
+};
+
+// What a recognizer works with: the parser that fans out its events (heard by
+// `recorder`), a registry, a result and the message it may set.
+class RecognizerTest : public InternalTest {
+protected:
+    RecognizerTest() : parser(0) {
+        storage.setGarbage(&garbage);
+        parser.addHandler(&recorder);
+    }
+
+    quen_3_1::IOption* add(char const* names, quen_3_1::kel_variant_type_t type) {
+        return storage.option(names, "help", type, "general");
+    }
+
+    quen_3_1::BasicParser parser;
+    quen_3_1::Garbage garbage;
+    quen_3_1::RegisteredOptionStorage storage;
+    quen_3_1::ParseResult result;
+    EventRecorder recorder;
+    std::string message;
+};
+
+}  // namespace quen_test
+
+#endif
