@@ -4,9 +4,12 @@
 // Input: lines. "o<kind><names>" declares an option (kind '0' boolean, '6'
 // integer, 'c' text, 'h' no value; names comma-separated), "s<n><name>"
 // adds a synonym to the n-th declared option, "p<n>" makes it positional;
-// any other line is a typed name, matched and recognized both ways.
+// any other line is a typed name, matched and recognized both ways, and a
+// value text, converted to every kind both ways.
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,6 +20,7 @@
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/argument_list.h"
 #include "recognizers/decomposed_name.h"
+#include "values/classic_extraction.h"
 
 namespace {
 
@@ -118,6 +122,52 @@ void compareFirstPositional(RegisteredOptionStorage const& storage) {
     quen_fuzz::check(storage.firstPositional() == first, "kept first positional option equals the scan");
 }
 
+template <class T>
+bool streamExtract(char const* text, T& value, bool hex) {
+    std::stringstream stream(text);
+    if (hex) {
+        stream >> std::hex;
+    }
+    stream >> value;
+    return !stream.fail();
+}
+
+template <class T>
+bool sameValue(T a, T b) {
+    return a == b;
+}
+
+template <>
+bool sameValue<double>(double a, double b) {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+template <class T>
+void compareExtraction(char const* text, char const* what) {
+    T fast{};
+    T slow{};
+    bool const fastOk = quen_3_1::extractClassic(text, fast);
+    bool const slowOk = streamExtract(text, slow, false);
+    quen_fuzz::check(fastOk == slowOk && (!slowOk || sameValue(fast, slow)), what);
+}
+
+// The fast extraction decides exactly as a fresh stream, for every kind.
+void compareConversions(std::string const& line) {
+    char const* const text = line.c_str();
+    compareExtraction<bool>(text, "boolean extraction equals the stream");
+    compareExtraction<int>(text, "integer extraction equals the stream");
+    compareExtraction<unsigned int>(text, "unsigned extraction equals the stream");
+    compareExtraction<long long>(text, "64-bit extraction equals the stream");
+    compareExtraction<double>(text, "double extraction equals the stream");
+    for (bool hex : {false, true}) {
+        unsigned long long fast = 0;
+        unsigned long long slow = 0;
+        bool const fastOk = quen_3_1::extractClassic(text, fast, hex);
+        bool const slowOk = streamExtract(text, slow, hex);
+        quen_fuzz::check(fastOk == slowOk && (!slowOk || fast == slow), "unsigned 64-bit extraction equals the stream");
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
@@ -142,6 +192,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         } else {
             compareMatching(storage, line);
             compareLookup(storage, line);
+            compareConversions(line);
         }
     }
     compareFirstPositional(storage);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "options/option_description.h"
+#include "values/classic_extraction.h"
 #include "values/garbage.h"
 #include "values/typed_operations.h"
 
@@ -32,8 +33,13 @@ bool isHexadecimal(std::string const& text) {
     return hex;
 }
 
+// A fresh stream in its default state; under the classic global locale the
+// same extraction is done without building the stream.
 template <class T>
 bool extract(char const* text, T& out) {
+    if (classicExtraction() == ExtractionSupport::Classic) {
+        return extractClassic(text, out);
+    }
     std::stringstream stream(text);
     stream >> out;
     return !stream.fail();
@@ -41,8 +47,12 @@ bool extract(char const* text, T& out) {
 
 bool extractUnsigned64(char const* text, unsigned long long& out) {
     std::string const s(text);
+    bool const hex = isHexadecimal(s);
+    if (classicExtraction() == ExtractionSupport::Classic) {
+        return extractClassic(text, out, hex);
+    }
     std::stringstream stream(s);
-    if (isHexadecimal(s)) {
+    if (hex) {
         stream >> std::hex;
     }
     stream >> out;

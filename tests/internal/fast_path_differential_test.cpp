@@ -4,17 +4,24 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <locale>
 #include <random>
+#include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "frontend/trace.h"
 #include "options/name_index.h"
+#include "options/option_description.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/argument_list.h"
 #include "recognizers/decomposed_name.h"
 #include "support/capture.h"
+#include "values/classic_extraction.h"
+#include "values/garbage.h"
 
 using quen_3_1::AbbreviationParser;
 using quen_3_1::ArgumentList;
@@ -288,3 +295,332 @@ TEST_F(FastPath, CopyOfAStoredOptionDoesNotTouchTheIndex) {
     EXPECT_EQ(storage.firstPositional(), kNoOption);
     EXPECT_EQ(storage.names().size(), 1u);
 }
+
+// ---------------------------------------------------------------- conversions
+
+namespace {
+
+template <class T>
+bool streamExtract(std::string const& text, T& value, bool hex = false) {
+    std::stringstream stream(text.c_str());
+    if (hex) {
+        stream >> std::hex;
+    }
+    stream >> value;
+    return !stream.fail();
+}
+
+std::uint64_t bitsOf(double d) {
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &d, sizeof bits);
+    return bits;
+}
+
+// The kinds' limits and the texts at the edges of each rule.
+char const* const kBoundaries[] = {"0",
+                                   "1",
+                                   "-1",
+                                   "-0",
+                                   "+0",
+                                   "2",
+                                   "2147483647",
+                                   "2147483648",
+                                   "-2147483648",
+                                   "-2147483649",
+                                   "4294967295",
+                                   "4294967296",
+                                   "-4294967295",
+                                   "-4294967296",
+                                   "9223372036854775807",
+                                   "9223372036854775808",
+                                   "-9223372036854775808",
+                                   "-9223372036854775809",
+                                   "18446744073709551615",
+                                   "18446744073709551616",
+                                   "-18446744073709551615",
+                                   "-18446744073709551616",
+                                   "0x7fffffffffffffff",
+                                   "0xffffffffffffffff",
+                                   "0x10000000000000000",
+                                   "ffffffffffffffffh",
+                                   "1e308",
+                                   "1.7976931348623157e308",
+                                   "1.7976931348623159e308",
+                                   "1e309",
+                                   "-1e309",
+                                   "1e-400",
+                                   "4.9e-324",
+                                   "2.4703282292062327e-324",
+                                   "2.2250738585072011e-308",
+                                   "0.1",
+                                   ".5",
+                                   "5.",
+                                   ".",
+                                   "-.",
+                                   "e5",
+                                   "1e",
+                                   "1e+",
+                                   "1e-",
+                                   "0e0",
+                                   "00.00e00",
+                                   "inf",
+                                   "nan",
+                                   "0x1p3",
+                                   "  42",
+                                   "\t-7",
+                                   "",
+                                   " ",
+                                   "+",
+                                   "-",
+                                   "0x",
+                                   "0X",
+                                   "h",
+                                   "0h",
+                                   "x"};
+
+// Texts built from what number extraction looks at: blanks, signs, zeros,
+// "0x", digits, hexadecimal letters, points, exponents, the 'h' suffix and
+// anything else, with the kinds' boundaries among them.
+class NumberTexts {
+public:
+    explicit NumberTexts(std::uint32_t seed) : m_random(seed) {}
+
+    std::string next() {
+        switch (below(5)) {
+            case 0:
+                return std::string(kBoundaries[below(sizeof kBoundaries / sizeof kBoundaries[0])]) + tail();
+            case 1:
+                return anyBytes();
+            default:
+                return structured();
+        }
+    }
+
+private:
+    std::size_t below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(m_random); }
+
+    std::string pick(char const* set) { return std::string(1, set[below(std::strlen(set))]); }
+
+    std::string repeat(char const* set, std::size_t most) {
+        std::string text;
+        std::size_t const count = below(most + 1);
+        for (std::size_t i = 0; i < count; ++i) {
+            text += pick(set);
+        }
+        return text;
+    }
+
+    std::string tail() { return below(3) == 0 ? repeat(" xh.e+-9aG,", 3) : std::string(); }
+
+    std::string structured() {
+        std::string text = repeat(" \t\n\v\f\r", below(4) == 0 ? 3 : 0);
+        if (below(2) == 0) {
+            text += pick("+-");
+        }
+        text += repeat("0", below(3) == 0 ? 4 : 1);
+        if (below(5) == 0) {
+            text += pick("xX");
+        }
+        text += repeat(below(3) == 0 ? "0123456789abcdefABCDEF" : "0123456789", below(4) == 0 ? 30 : 8);
+        if (below(3) == 0) {
+            text += "." + repeat("0123456789", 6);
+        }
+        if (below(4) == 0) {
+            text += pick("eE") + (below(2) == 0 ? pick("+-") : std::string()) + repeat("0123456789", 4);
+        }
+        if (below(4) == 0) {
+            text += pick("hH");
+        }
+        return text + tail();
+    }
+
+    std::string anyBytes() {
+        std::string text;
+        std::size_t const count = below(12);
+        for (std::size_t i = 0; i < count; ++i) {
+            text += static_cast<char>(1 + below(255));
+        }
+        return text;
+    }
+
+    std::mt19937 m_random;
+};
+
+}  // namespace
+
+TEST_F(FastPath, ClassicExtractionEqualsTheStreamOnArbitraryText) {
+    NumberTexts texts(424242);
+    for (int i = 0; i < 40000; ++i) {
+        std::string const text = texts.next();
+        SCOPED_TRACE("text '" + text + "'");
+        bool fastBool = false;
+        bool slowBool = false;
+        bool const boolOk = streamExtract(text, slowBool);
+        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastBool), boolOk);
+        if (boolOk) {
+            EXPECT_EQ(fastBool, slowBool);
+        }
+        int fastInt = 0;
+        int slowInt = 0;
+        bool const intOk = streamExtract(text, slowInt);
+        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastInt), intOk);
+        if (intOk) {
+            EXPECT_EQ(fastInt, slowInt);
+        }
+        unsigned int fastUnsigned = 0;
+        unsigned int slowUnsigned = 0;
+        bool const unsignedOk = streamExtract(text, slowUnsigned);
+        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastUnsigned), unsignedOk);
+        if (unsignedOk) {
+            EXPECT_EQ(fastUnsigned, slowUnsigned);
+        }
+        long long fastLong = 0;
+        long long slowLong = 0;
+        bool const longOk = streamExtract(text, slowLong);
+        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastLong), longOk);
+        if (longOk) {
+            EXPECT_EQ(fastLong, slowLong);
+        }
+        for (bool hex : {false, true}) {
+            unsigned long long fastWide = 0;
+            unsigned long long slowWide = 0;
+            bool const wideOk = streamExtract(text, slowWide, hex);
+            ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastWide, hex), wideOk) << "hex " << hex;
+            if (wideOk) {
+                EXPECT_EQ(fastWide, slowWide) << "hex " << hex;
+            }
+        }
+        double fastDouble = 0;
+        double slowDouble = 0;
+        bool const doubleOk = streamExtract(text, slowDouble);
+        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastDouble), doubleOk);
+        if (doubleOk) {
+            EXPECT_EQ(bitsOf(fastDouble), bitsOf(slowDouble));
+        }
+    }
+}
+
+namespace {
+
+char const kHexDigits[] = "1234567890ABCDEFabcdef";
+
+bool allHexDigits(std::string const& text, std::size_t from, std::size_t to) {
+    return from >= to || text.find_first_not_of(kHexDigits, from) >= to;
+}
+
+template <class T>
+tarvo2::variant_t convertedByStream(std::string const& text) {
+    T value{};
+    return streamExtract(text, value) ? tarvo2::variant_t(value) : tarvo2::variant_t();
+}
+
+// The conversions as first written: a fresh stream for every value.
+tarvo2::variant_t fromStringByStream(tarvo2::kel_variant_type_t kind, std::string const& text) {
+    switch (kind) {
+        case tarvo2::vt_bool:
+            return convertedByStream<bool>(text);
+        case tarvo2::vt_int:
+            return convertedByStream<int>(text);
+        case tarvo2::vt_uint:
+            return convertedByStream<unsigned int>(text);
+        case tarvo2::vt_int64:
+            return convertedByStream<long long>(text);
+        case tarvo2::vt_double:
+            return convertedByStream<double>(text);
+        case tarvo2::vt_uint64: {
+            bool hex = false;
+            if (text.compare(0, 2, "0x") == 0 || text.compare(0, 2, "0X") == 0) {
+                hex = allHexDigits(text, 2, text.size());
+            }
+            std::string const last = text.substr(text.size() - 1);
+            if ((last == "h" || last == "H") && allHexDigits(text, 0, text.size() - 1)) {
+                hex = true;
+            }
+            unsigned long long value = 0;
+            return streamExtract(text, value, hex) ? tarvo2::variant_t(value) : tarvo2::variant_t();
+        }
+        default:
+            return tarvo2::variant_t();
+    }
+}
+
+tarvo2::kel_variant_type_t const kNumberKinds[] = {tarvo2::vt_bool,  tarvo2::vt_int,    tarvo2::vt_uint,
+                                                   tarvo2::vt_int64, tarvo2::vt_uint64, tarvo2::vt_double};
+
+void expectSameConversion(tarvo2::kel_variant_type_t kind, std::string const& text) {
+    SCOPED_TRACE("kind " + std::to_string(kind) + ", text '" + text + "'");
+    quen_3_1::Garbage keeper;
+    quen_3_1::OptionDescription const option({"x"}, "g", "", "", kind, &keeper);
+    bool fastThrew = false;
+    bool slowThrew = false;
+    tarvo2::variant_t fast;
+    tarvo2::variant_t slow;
+    try {
+        fast = option.fromString(text.c_str(), &keeper);
+    } catch (std::out_of_range const&) {
+        fastThrew = true;
+    }
+    try {
+        slow = fromStringByStream(kind, text.c_str());
+    } catch (std::out_of_range const&) {
+        slowThrew = true;
+    }
+    ASSERT_EQ(fastThrew, slowThrew);
+    EXPECT_EQ(fast.m_type, slow.m_type);
+    EXPECT_EQ(fast.m_data, slow.m_data);
+}
+
+// Digits grouped by thousands with '.', and ',' as the decimal point.
+class GroupingPunctuation : public std::numpunct<char> {
+protected:
+    char do_thousands_sep() const override { return '.'; }
+    char do_decimal_point() const override { return ','; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+class GlobalLocale {
+public:
+    explicit GlobalLocale(std::locale const& locale) : m_previous(std::locale::global(locale)) {}
+    GlobalLocale(GlobalLocale const&) = delete;
+    GlobalLocale& operator=(GlobalLocale const&) = delete;
+    ~GlobalLocale() { std::locale::global(m_previous); }
+
+private:
+    std::locale m_previous;
+};
+
+}  // namespace
+
+TEST_F(FastPath, ConversionOfEveryKindEqualsAFreshStream) {
+    NumberTexts texts(8675309);
+    for (int i = 0; i < 15000; ++i) {
+        std::string const text = texts.next();
+        for (tarvo2::kel_variant_type_t kind : kNumberKinds) {
+            expectSameConversion(kind, text);
+        }
+    }
+}
+
+TEST_F(FastPath, ConversionUnderAnotherGlobalLocaleEqualsAFreshStream) {
+    GlobalLocale const grouping(std::locale(std::locale::classic(), new GroupingPunctuation));
+    EXPECT_EQ(quen_3_1::classicExtraction(), quen_3_1::ExtractionSupport::StreamOnly);
+    for (char const* text : {"1.234", "12.345.678", "1,5", "1.5", "1.234,5e1", ".123", "1..2"}) {
+        for (tarvo2::kel_variant_type_t kind : kNumberKinds) {
+            expectSameConversion(kind, text);
+        }
+    }
+    NumberTexts texts(31337);
+    for (int i = 0; i < 2000; ++i) {
+        std::string const text = texts.next();
+        for (tarvo2::kel_variant_type_t kind : kNumberKinds) {
+            expectSameConversion(kind, text);
+        }
+    }
+}
+
+#if defined(__GLIBCXX__) && defined(__GLIBC__)
+TEST_F(FastPath, ClassicGlobalLocaleTakesTheFastPath) {
+    GlobalLocale const classic(std::locale::classic());
+    EXPECT_EQ(quen_3_1::classicExtraction(), quen_3_1::ExtractionSupport::Classic);
+}
+#endif
