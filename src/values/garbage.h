@@ -1,8 +1,8 @@
 #ifndef QUEN_3_1_VALUES_GARBAGE_H
 #define QUEN_3_1_VALUES_GARBAGE_H
 
-#include <set>
 #include <string>
+#include <unordered_set>
 
 namespace quen_3_1 {
 
@@ -22,7 +22,8 @@ public:
     char const* keep(std::string const& text);
 
 private:
-    std::set<std::string> m_strings;
+    // Nodes never move, so the pointers handed out stay valid as it grows.
+    std::unordered_set<std::string> m_strings;
 };
 
 }  // namespace quen_3_1
