@@ -55,12 +55,11 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
 
 int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
                               std::string& message) {
-    std::string argument = args[0];
+    std::string const& argument = args[0];
     internal::trace(m_name, ": parsing argument '", argument, "'");
-    std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
-    std::string const typed = typedName(argument, hyphens);
     if (m_bestMatches.size() > 1) {
-        message = "Ambiguous option '" + typed + "'" + formatTokenMessage(argument) +
+        std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
+        message = "Ambiguous option '" + typedName(argument, hyphens) + "'" + tokenPart(args) +
                   ", could be: " + listNames(m_bestMatches);
         return 2;
     }
@@ -94,11 +93,9 @@ int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, R
 // name, and other kinds fall back to the next argument.
 int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const& option, std::string& value,
                                     std::size_t& consumed, std::string& message) {
-    std::string argument = args[0];
     if (option.type() == tarvo2::vt_empty) {
         if (!value.empty()) {
-            return fail(message, "Option '" + option.primaryName() + "'does not requires a value" +
-                                     formatTokenMessage(argument));
+            return fail(message, "Option '" + option.primaryName() + "'does not requires a value" + tokenPart(args));
         }
         return 0;
     }
@@ -107,7 +104,7 @@ int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const&
     }
     if (!value.empty()) {
         return fail(message, "Option '" + option.primaryName() + "' is boolean and should be declared in form " +
-                                 "'--option' or '--no-option'" + formatTokenMessage(argument));
+                                 "'--option' or '--no-option'" + tokenPart(args));
     }
     // The matched name decides, so a boolean whose own name starts with "no-" gives "0".
     value = m_bestMatches.front().name.getName().compare(0, 3, "no-") == 0 ? "0" : "1";
@@ -118,10 +115,9 @@ int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const&
 // number: "--num=-5" is the way to give one.
 int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
                                               std::size_t& consumed, std::string& message) {
-    std::string argument = args[0];
     internal::trace(m_name, ": no value in the same argument, looking next");
     if (args.size() == 1) {
-        return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
+        return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));
     }
     value = args[1];
     if (!value.empty() && value[0] == '-') {
@@ -132,9 +128,15 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescript
     consumed = 2;
     internal::trace(m_name, ": got value from the next argument: '", value, "'");
     if (value.empty()) {
-        return fail(message, "Option '" + option.primaryName() + "' requires a value" + formatTokenMessage(argument));
+        return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));
     }
     return 0;
+}
+
+// formatTokenMessage of the argument being parsed.
+std::string AbbreviationParser::tokenPart(ArgumentList const& args) {
+    std::string token = args[0];
+    return formatTokenMessage(token);
 }
 
 int AbbreviationParser::fail(std::string& message, std::string text) {

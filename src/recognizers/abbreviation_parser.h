@@ -61,6 +61,7 @@ private:
     int valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
                               std::size_t& consumed, std::string& message);
     int fail(std::string& message, std::string text);
+    std::string tokenPart(ArgumentList const& args);
 
     std::size_t m_optionIndex;
     std::vector<NameMatch> m_bestMatches;

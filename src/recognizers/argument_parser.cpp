@@ -4,6 +4,7 @@
 #include "options/option_description.h"
 #include "results/result_collector.h"
 #include "values/separator_split.h"
+#include "values/variant_transfer.h"
 
 namespace quen_3_1 {
 
@@ -16,14 +17,18 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) { return " i
 
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
                                             ArgumentList& args, IResultCollector* collector) {
-    OptionData data;
+    // The record and the pieces are reused from call to call; the collector copies what it keeps.
+    OptionData& data = m_data;
+    data.m_positions.clear();
+    data.m_values.clear();
     data.m_positions.push_back(takeNumber());
     if (!value.empty()) {
         internal::trace(m_name, ": adding values to result container:");
         char const tokenizer = option.tokenizer();
         if (tokenizer != 0) {
             internal::trace(m_name, ": using tokenizer on char: '", tokenizer, "'");
-            std::vector<std::string> pieces;
+            std::vector<std::string>& pieces = m_pieces;
+            pieces.clear();
             splitAtSeparator(value, tokenizer, pieces);
             for (std::string& piece : pieces) {
                 internal::trace(m_name, ": value is: '", piece, "'");
@@ -61,14 +66,19 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
         return 2;
     }
     std::int32_t const number = takeNumber();
-    Value const event{piece.c_str(), 0, number, converted};
+    Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
+    transferVariant(event.m_value, converted);
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
         message = "Value '" + whole + "' is not valid for option '" + option.primaryName() + "' in argument '" +
                   args[0] + "'";
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return 1;
     }
-    data.m_values.emplace_back(std::make_pair(piece, converted), number);
+    data.m_values.emplace_back();
+    ValueEntry& entry = data.m_values.back();
+    entry.first.first = piece;
+    transferVariant(entry.first.second, event.m_value);
+    entry.second = number;
     return 0;
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "quen_3_1/quen.h"
 #include "recognizers/argument_list.h"
@@ -53,6 +54,9 @@ protected:
     std::int32_t m_flags;
 
 private:
+    OptionData m_data;
+    std::vector<std::string> m_pieces;
+
     int addValue(std::string& piece, std::string const& whole, std::string& message, OptionDescription const& option,
                  ArgumentList const& args, OptionData& data);
 };

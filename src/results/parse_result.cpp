@@ -1,8 +1,11 @@
 #include "results/parse_result.h"
 
+#include <algorithm>
+
 #include "options/option_description.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_parser.h"
+#include "values/variant_transfer.h"
 
 namespace quen_3_1 {
 
@@ -16,19 +19,42 @@ ParseResult::ParseResult()
 
 void ParseResult::destroy() { delete this; }
 
+namespace {
+
+// Appends copies of `from`. When `to` has to grow, its own entries are moved
+// over with their values handed on, not copied through the memory hooks.
+void appendValues(std::vector<ValueEntry>& to, std::vector<ValueEntry> const& from) {
+    if (to.size() + from.size() > to.capacity()) {
+        std::vector<ValueEntry> grown;
+        grown.reserve(std::max(to.size() + from.size(), 2 * to.capacity()));
+        for (ValueEntry& entry : to) {
+            grown.emplace_back();
+            ValueEntry& moved = grown.back();
+            moved.first.first.swap(entry.first.first);
+            transferVariant(moved.first.second, entry.first.second);
+            moved.second = entry.second;
+        }
+        to.swap(grown);
+    }
+    to.insert(to.end(), from.begin(), from.end());
+}
+
+}  // namespace
+
 int ParseResult::store(OptionDescription const& option, OptionData const& data) {
     std::vector<std::string> const& names = option.names();
     std::string const& primary = names.at(0);
-    if (m_options.find(primary) == m_options.end()) {
+    auto const first = m_options.find(primary);
+    if (first == m_options.end()) {
         for (std::string const& name : names) {
             m_options[name] = data;
         }
         return 0;
     }
-    for (std::string const& name : names) {
-        OptionData& entry = m_options[name];
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        OptionData& entry = i == 0 ? first->second : m_options[names[i]];
         entry.m_positions.insert(entry.m_positions.end(), data.m_positions.begin(), data.m_positions.end());
-        entry.m_values.insert(entry.m_values.end(), data.m_values.begin(), data.m_values.end());
+        appendValues(entry.m_values, data.m_values);
     }
     return 0;
 }

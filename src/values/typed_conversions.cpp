@@ -8,6 +8,7 @@
 #include "values/classic_extraction.h"
 #include "values/garbage.h"
 #include "values/typed_operations.h"
+#include "values/variant_transfer.h"
 
 namespace quen_3_1 {
 
@@ -83,7 +84,8 @@ bool OperationFromString::execute<unsigned long long>() {
 
 template <>
 bool OperationFromString::execute<char const*>() {
-    value = tarvo2::variant_t(keeper->init(text));
+    tarvo2::variant_t interned(keeper->init(text));
+    transferVariant(value, interned);
     return true;
 }
 
@@ -168,7 +170,9 @@ bool OptionDescription::typedOperation(Op& op) const {
 tarvo2::variant_t OptionDescription::fromString(char const* text, Garbage* keeper) const {
     OperationFromString op{this, keeper, text, tarvo2::variant_t()};
     typedOperation(op);
-    return op.value;
+    tarvo2::variant_t result;
+    transferVariant(result, op.value);
+    return result;
 }
 
 // Kinds without a conversion render as the empty text.

@@ -4,11 +4,13 @@
 
 #include "options/option_description.h"
 #include "values/garbage.h"
+#include "values/variant_transfer.h"
 
 namespace quen_3_1 {
 
 bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, std::string& message) const {
-    value = fromString(text.c_str(), m_garbage);
+    tarvo2::variant_t converted = fromString(text.c_str(), m_garbage);
+    transferVariant(value, converted);
     if (value.m_type == tarvo2::vt_empty) {
         message = "Option '" + primaryName() + "' can not parse '" + text + "' value, requires a type '" +
                   getTypeName() + "' here.";
@@ -44,7 +46,8 @@ OptionDescription::AbbreviationOutcome OptionDescription::validateAbbreviation(s
         if (allowedText.size() >= text.size() && allowedText.compare(0, text.size(), text) == 0) {
             ++matches;
             matched = allowedText;
-            value = tarvo2::variant_t(m_garbage->keep(matched));
+            tarvo2::variant_t allowedValue(m_garbage->keep(matched));
+            transferVariant(value, allowedValue);
         }
     }
     if (matches == 1) {
