@@ -6,9 +6,9 @@
 namespace quen_3_1 {
 
 void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
-    insert(Candidate{option, nameIndex, false, name, 0, 0});
+    insert(Candidate{option, nameIndex, false, name, 0, 0, npos, npos});
     if (boolean) {
-        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0});
+        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0, npos, npos});
     }
 }
 
@@ -18,11 +18,13 @@ void NameIndex::insert(Candidate candidate) {
     std::size_t const id = m_candidates.size();
     m_candidates.push_back(std::move(candidate));
     Candidate const& stored = m_candidates.back();
-    insertOrdered(m_exact[stored.text], id);
+    std::string_view const text(stored.text);
+    link(m_named.try_emplace(text, Chain{npos, npos}).first->second, id, &Candidate::nextSame);
     if (m_shapes.size() <= stored.parts) {
         m_shapes.resize(stored.parts + 1);
     }
-    insertOrdered(m_shapes[stored.parts][stored.text.substr(0, stored.firstEnd)], id);
+    Chain& shape = m_shapes[stored.parts].try_emplace(text.substr(0, stored.firstEnd), Chain{npos, npos}).first->second;
+    link(shape, id, &Candidate::nextShape);
 }
 
 // Candidate-list order: by option, then by name, the plain name before its "no-" form.
@@ -38,16 +40,35 @@ bool NameIndex::before(std::size_t a, std::size_t b) const {
     return !x.negated && y.negated;
 }
 
-// A synonym added to an earlier option lands before later options' names.
-void NameIndex::insertOrdered(std::vector<std::size_t>& ids, std::size_t id) const {
-    auto const at =
-        std::upper_bound(ids.begin(), ids.end(), id, [this](std::size_t a, std::size_t b) { return before(a, b); });
-    ids.insert(at, id);
+// Registration appends at the tail; a synonym added to an earlier option
+// lands before later options' names.
+void NameIndex::link(Chain& chain, std::size_t id, std::size_t Candidate::*next) {
+    if (chain.head == npos) {
+        chain.head = id;
+        chain.tail = id;
+        return;
+    }
+    if (before(chain.tail, id)) {
+        m_candidates[chain.tail].*next = id;
+        chain.tail = id;
+        return;
+    }
+    if (before(id, chain.head)) {
+        m_candidates[id].*next = chain.head;
+        chain.head = id;
+        return;
+    }
+    std::size_t at = chain.head;
+    while (before(m_candidates[at].*next, id)) {
+        at = m_candidates[at].*next;
+    }
+    m_candidates[id].*next = m_candidates[at].*next;
+    m_candidates[at].*next = id;
 }
 
-std::vector<std::size_t> const* NameIndex::exact(std::string const& name) const {
-    auto const found = m_exact.find(name);
-    return found == m_exact.end() ? nullptr : &found->second;
+std::size_t NameIndex::firstNamed(std::string_view name) const {
+    auto const found = m_named.find(name);
+    return found == m_named.end() ? npos : found->second.head;
 }
 
 // The first parts that begin with `first` are one run of the ordered map.
@@ -58,10 +79,11 @@ void NameIndex::withShape(std::size_t parts, std::string_view first, std::vector
     auto const& byFirst = m_shapes[parts];
     std::size_t const start = out.size();
     std::size_t runs = 0;
-    for (auto it = byFirst.lower_bound(first);
-         it != byFirst.end() && it->first.compare(0, first.size(), first) == 0 && it->first.size() >= first.size();
+    for (auto it = byFirst.lower_bound(first); it != byFirst.end() && it->first.substr(0, first.size()) == first;
          ++it) {
-        out.insert(out.end(), it->second.begin(), it->second.end());
+        for (std::size_t id = it->second.head; id != npos; id = m_candidates[id].nextShape) {
+            out.push_back(id);
+        }
         ++runs;
     }
     if (runs > 1) {

@@ -2,6 +2,7 @@
 #define QUEN_3_1_OPTIONS_NAME_INDEX_H
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <map>
 #include <string>
@@ -15,24 +16,30 @@ namespace quen_3_1 {
 // and synonyms are added, so that lookups and abbreviation matching do not
 // walk all options for every argument. A candidate is one entry of the
 // candidate list: each option's names in order, a boolean's "no-" form right
-// after its name, options in registration order. Lists of candidates are
-// always in that order.
+// after its name, options in registration order. Candidates with the same
+// name, and candidates with the same number of parts and first part, are
+// chained in that order.
 class NameIndex {
 public:
+    static constexpr std::size_t npos = static_cast<std::size_t>(-1);
+
     struct Candidate {
-        std::size_t option;    // index of the option in the registry
-        std::size_t name;      // index of the name in the option's names
-        bool negated;          // the "no-" form of a boolean option's name
-        std::string text;      // the name as a whole ("no-" included)
-        std::size_t parts;     // number of '-'-separated parts
-        std::size_t firstEnd;  // length of the first part
+        std::size_t option;     // index of the option in the registry
+        std::size_t name;       // index of the name in the option's names
+        bool negated;           // the "no-" form of a boolean option's name
+        std::string text;       // the name as a whole ("no-" included)
+        std::size_t parts;      // number of '-'-separated parts
+        std::size_t firstEnd;   // length of the first part
+        std::size_t nextSame;   // next candidate with the same text, or npos
+        std::size_t nextShape;  // next candidate with the same parts and first part, or npos
     };
 
     // Adds the option's name at `nameIndex` and, for a boolean, its "no-" form.
     void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean);
 
-    // The candidates named exactly `name`; null when there are none.
-    std::vector<std::size_t> const* exact(std::string const& name) const;
+    // The first candidate named exactly `name` (follow nextSame for the
+    // others); npos when there is none.
+    std::size_t firstNamed(std::string_view name) const;
     // Appends the candidates with `parts` parts whose first part begins with
     // `first`, in candidate-list order.
     void withShape(std::size_t parts, std::string_view first, std::vector<std::size_t>& out) const;
@@ -41,14 +48,20 @@ public:
     std::size_t size() const { return m_candidates.size(); }
 
 private:
+    struct Chain {
+        std::size_t head;
+        std::size_t tail;
+    };
+
     void insert(Candidate candidate);
     bool before(std::size_t a, std::size_t b) const;
-    void insertOrdered(std::vector<std::size_t>& ids, std::size_t id) const;
+    void link(Chain& chain, std::size_t id, std::size_t Candidate::*next);
 
-    std::vector<Candidate> m_candidates;
-    std::unordered_map<std::string, std::vector<std::size_t>> m_exact;
+    // A deque, so that the keys below can view the candidates' texts.
+    std::deque<Candidate> m_candidates;
+    std::unordered_map<std::string_view, Chain> m_named;
     // By number of parts, then by first part.
-    std::vector<std::map<std::string, std::vector<std::size_t>, std::less<>>> m_shapes;
+    std::vector<std::map<std::string_view, Chain>> m_shapes;
 };
 
 }  // namespace quen_3_1

@@ -98,9 +98,9 @@ bool RegisteredOptionStorage::answersTo(OptionDescription const& option, std::st
 // first one is the option the scan would meet first.
 int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
     for (std::string const& name : names) {
-        std::vector<std::size_t> const* const found = m_names.exact(name);
-        if (found != nullptr && !found->empty()) {
-            index = m_names.candidate(found->front()).option;
+        std::size_t const found = m_names.firstNamed(name);
+        if (found != NameIndex::npos) {
+            index = m_names.candidate(found).option;
             return 0;
         }
     }
@@ -120,11 +120,11 @@ int RegisteredOptionStorage::scanForOption(std::vector<std::string> const& names
 }
 
 int RegisteredOptionStorage::isAdded(std::string const& name, unsigned long& index) const {
-    std::vector<std::size_t> const* const found = m_names.exact(name);
-    if (found == nullptr || found->empty()) {
+    std::size_t const found = m_names.firstNamed(name);
+    if (found == NameIndex::npos) {
         return 1;
     }
-    index = m_names.candidate(found->front()).option;
+    index = m_names.candidate(found).option;
     return 0;
 }
 

@@ -126,9 +126,11 @@ int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string cons
     splitParts(typed, m_typedParts);
     m_bestIds.clear();
     std::int32_t bestScore = 0;
-    std::vector<std::size_t> const* const exact = index.exact(typed);
-    if (exact != nullptr && !exact->empty()) {
-        m_bestIds = *exact;
+    std::size_t const exact = index.firstNamed(typed);
+    if (exact != NameIndex::npos) {
+        for (std::size_t id = exact; id != NameIndex::npos; id = index.candidate(id).nextSame) {
+            m_bestIds.push_back(id);
+        }
         bestScore = static_cast<std::int32_t>(2 * m_typedParts.size());
     } else {
         m_shaped.clear();
