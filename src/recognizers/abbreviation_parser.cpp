@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "frontend/trace.h"
+#include "options/name_index.h"
 #include "options/registered_option_storage.h"
 
 namespace quen_3_1 {
@@ -43,13 +44,13 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
     if (found != 0) {
         return 1;
     }
-    std::string const& bestName = storage.names().candidate(best).text;
-    internal::trace(m_name, ": best match option for '", typed, "' in argument '", argument, "' is '", bestName, "'");
-    unsigned long index = 0;
-    if (storage.isAdded(bestName, index) != 0) {
-        return 1;
-    }
-    m_optionIndex = index;
+    NameIndex::Candidate const& winner = storage.names().candidate(best);
+    internal::trace(m_name, ": best match option for '", typed, "' in argument '", argument, "' is '", winner.text,
+                    "'");
+    // Looking the winner's name up again (isAdded) finds this same option: a
+    // unique best match is the only candidate with its name, since an equal
+    // name would have tied with it.
+    m_optionIndex = winner.option;
     return 0;
 }
 
