@@ -20,6 +20,7 @@
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/argument_list.h"
 #include "recognizers/decomposed_name.h"
+#include "support/straightforward_paths.h"
 #include "values/classic_extraction.h"
 
 namespace {
@@ -55,19 +56,6 @@ quen_3_1::kel_variant_type_t kindOf(char c) {
     }
 }
 
-bool sameMatches(std::vector<AbbreviationParser::NameMatch> const& a,
-                 std::vector<AbbreviationParser::NameMatch> const& b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (a[i].sameLength != b[i].sameLength || a[i].score != b[i].score || a[i].name.parts != b[i].name.parts) {
-            return false;
-        }
-    }
-    return true;
-}
-
 // The choice of the best candidate both ways, and what the recognizer makes of it.
 void compareMatching(RegisteredOptionStorage& storage, std::string const& typed) {
     AbbreviationParser scan(nullptr, nullptr, 0);
@@ -85,7 +73,8 @@ void compareMatching(RegisteredOptionStorage& storage, std::string const& typed)
     int const indexedCode = indexed.findBestIndexed(storage.names(), typed, candidate, indexedMessage);
     quen_fuzz::check(indexedCode == scanCode, "indexed best match gives the scan's code");
     quen_fuzz::check(indexedMessage == scanMessage, "indexed best match gives the scan's message");
-    quen_fuzz::check(sameMatches(indexed.bestMatches(), scan.bestMatches()), "same best matches in the same order");
+    quen_fuzz::check(quen_test::sameMatches(indexed.bestMatches(), scan.bestMatches()),
+                     "same best matches in the same order");
     if (scanCode != 0) {
         return;
     }
@@ -93,7 +82,7 @@ void compareMatching(RegisteredOptionStorage& storage, std::string const& typed)
     quen_fuzz::check(name == best.getName(), "same best name");
     unsigned long fast = 1;
     unsigned long slow = 2;
-    quen_fuzz::check(storage.isAdded(name, fast) == storage.scanForOption({name}, slow) && fast == slow,
+    quen_fuzz::check(storage.isAdded(name, fast) == quen_test::scanForOption(storage, {name}, slow) && fast == slow,
                      "indexed lookup finds the scan's option");
     if (typed.find('=') != std::string::npos) {
         return;
@@ -108,7 +97,7 @@ void compareLookup(RegisteredOptionStorage& storage, std::string const& name) {
     unsigned long fast = 1;
     unsigned long slow = 2;
     int const fastCode = storage.findOption({name, "no-" + name}, fast);
-    int const slowCode = storage.scanForOption({name, "no-" + name}, slow);
+    int const slowCode = quen_test::scanForOption(storage, {name, "no-" + name}, slow);
     quen_fuzz::check(fastCode == slowCode && (fastCode != 0 || fast == slow), "indexed lookup equals the scan");
 }
 

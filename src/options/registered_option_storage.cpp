@@ -77,23 +77,6 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
     return 0;
 }
 
-bool RegisteredOptionStorage::answersTo(OptionDescription const& option, std::string const& name) const {
-    for (std::string const& own : option.names()) {
-        if (own == name) {
-            return true;
-        }
-    }
-    if (option.type() != tarvo2::vt_bool || name.compare(0, 3, "no-") != 0) {
-        return false;
-    }
-    for (std::string const& own : option.names()) {
-        if (name.compare(3, std::string::npos, own) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // The index lists the candidates of a name in registration order, so its
 // first one is the option the scan would meet first.
 int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
@@ -102,18 +85,6 @@ int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, u
         if (found != NameIndex::npos) {
             index = m_names.candidate(found).option;
             return 0;
-        }
-    }
-    return 1;
-}
-
-int RegisteredOptionStorage::scanForOption(std::vector<std::string> const& names, unsigned long& index) const {
-    for (std::string const& name : names) {
-        for (std::size_t i = 0; i < m_options.size(); ++i) {
-            if (answersTo(m_options[i], name)) {
-                index = i;
-                return 0;
-            }
         }
     }
     return 1;

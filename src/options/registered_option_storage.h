@@ -35,8 +35,6 @@ public:
     int findOption(std::vector<std::string> const& names, unsigned long& index) const;
     // findOption for one name.
     int isAdded(std::string const& name, unsigned long& index) const;
-    // findOption by walking every option, the reference for the index.
-    int scanForOption(std::vector<std::string> const& names, unsigned long& index) const;
 
     // Every name the options answer to.
     NameIndex const& names() const { return m_names; }
@@ -54,7 +52,6 @@ public:
 
 private:
     std::pair<std::string, std::string> const& recordGroup(std::string const& group);
-    bool answersTo(OptionDescription const& option, std::string const& name) const;
 
     std::deque<OptionDescription> m_options;
     std::vector<std::pair<std::string, std::string>> m_groups;

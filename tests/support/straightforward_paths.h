@@ -1,0 +1,63 @@
+// The straightforward forms of what the library does through its name index,
+// kept outside the library as the reference that the differential test and
+// fuzz target compare the fast paths with.
+#ifndef QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
+#define QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
+
+#include <string>
+#include <vector>
+
+#include "options/registered_option_storage.h"
+#include "recognizers/abbreviation_parser.h"
+
+namespace quen_test {
+
+// An option answers to its own names, and a boolean also to "no-" + each of them.
+inline bool answersTo(quen_3_1::OptionDescription const& option, std::string const& name) {
+    for (std::string const& own : option.names()) {
+        if (own == name) {
+            return true;
+        }
+    }
+    if (option.type() != tarvo2::vt_bool || name.compare(0, 3, "no-") != 0) {
+        return false;
+    }
+    for (std::string const& own : option.names()) {
+        if (name.compare(3, std::string::npos, own) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// findOption by walking every option for every name: 0 with `index` set, or 1.
+inline int scanForOption(quen_3_1::RegisteredOptionStorage const& storage, std::vector<std::string> const& names,
+                         unsigned long& index) {
+    for (std::string const& name : names) {
+        for (std::size_t i = 0; i < storage.size(); ++i) {
+            if (answersTo(storage.at(i), name)) {
+                index = i;
+                return 0;
+            }
+        }
+    }
+    return 1;
+}
+
+// Same records, in the same order.
+inline bool sameMatches(std::vector<quen_3_1::AbbreviationParser::NameMatch> const& a,
+                        std::vector<quen_3_1::AbbreviationParser::NameMatch> const& b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i].sameLength != b[i].sameLength || a[i].score != b[i].score || a[i].name.parts != b[i].name.parts) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace quen_test
+
+#endif
