@@ -1,15 +1,58 @@
 #include "values/garbage.h"
 
+#include <cstring>
+#include <functional>
+
 namespace quen_3_1 {
+
+namespace {
+
+constexpr std::size_t kFirstCapacity = 16;
+
+}  // namespace
 
 char const* Garbage::init(char const* text) {
     static char const empty[] = "";
     if (text == nullptr) {
         return empty;
     }
-    return keep(std::string(text));
+    return keep(std::string_view(text));
 }
 
-char const* Garbage::keep(std::string const& text) { return m_strings.insert(text).first->c_str(); }
+char const* Garbage::keep(std::string_view text) {
+    if (2 * (m_count + 1) > m_strings.size()) {
+        grow();
+    }
+    std::size_t const hash = std::hash<std::string_view>()(text);
+    std::size_t const mask = m_strings.size() - 1;
+    for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+        Slot& slot = m_strings[i];
+        if (slot.text == nullptr) {
+            slot = Slot{hash, m_arena.copy(text), text.size()};
+            ++m_count;
+            return slot.text;
+        }
+        if (slot.hash == hash && slot.size == text.size() &&
+            (text.empty() || std::memcmp(slot.text, text.data(), text.size()) == 0)) {
+            return slot.text;
+        }
+    }
+}
+
+void Garbage::grow() {
+    std::vector<Slot> old(m_strings.empty() ? kFirstCapacity : 2 * m_strings.size(), Slot{0, nullptr, 0});
+    old.swap(m_strings);
+    std::size_t const mask = m_strings.size() - 1;
+    for (Slot const& slot : old) {
+        if (slot.text == nullptr) {
+            continue;
+        }
+        std::size_t i = slot.hash & mask;
+        while (m_strings[i].text != nullptr) {
+            i = (i + 1) & mask;
+        }
+        m_strings[i] = slot;
+    }
+}
 
 }  // namespace quen_3_1

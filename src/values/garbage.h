@@ -1,8 +1,11 @@
 #ifndef QUEN_3_1_VALUES_GARBAGE_H
 #define QUEN_3_1_VALUES_GARBAGE_H
 
-#include <string>
-#include <unordered_set>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "values/text_arena.h"
 
 namespace quen_3_1 {
 
@@ -18,12 +21,24 @@ public:
 
     // Stored copy of `text`; equal texts give the same pointer. Null gives "".
     virtual char const* init(char const* text);
-    // Same for a text already held as a string (it may hold NUL characters).
-    char const* keep(std::string const& text);
+    // Same for a text of known length (it may hold NUL characters).
+    char const* keep(std::string_view text);
 
 private:
-    // Nodes never move, so the pointers handed out stay valid as it grows.
-    std::unordered_set<std::string> m_strings;
+    // One interned text; a null `text` marks a free slot.
+    struct Slot {
+        std::size_t hash;
+        char const* text;
+        std::size_t size;
+    };
+
+    void grow();
+
+    // Open addressing with linear probing over a power-of-two table, at most
+    // half full. The copies live in the arena, so growing moves slots only.
+    std::vector<Slot> m_strings;
+    std::size_t m_count = 0;
+    TextArena m_arena;
 };
 
 }  // namespace quen_3_1

@@ -94,3 +94,21 @@ TEST(Garbage, KeepHoldsTextsWithNulCharacters) {
     EXPECT_EQ(keeper.keep(withNul), a);
     EXPECT_EQ(keeper.init("a"), b);
 }
+
+TEST(Garbage, TextsLargerThanAnyBlockAreInternedToo) {
+    Garbage keeper;
+    std::string const large(100000, 'x');
+    char const* const a = keeper.keep(large);
+    char const* const small = keeper.init("small");
+    EXPECT_EQ(std::string(a), large);
+    EXPECT_EQ(keeper.init(large.c_str()), a);
+    EXPECT_EQ(keeper.init("small"), small);
+}
+
+TEST(Garbage, TextsDifferingOnlyInLengthStayApart) {
+    Garbage keeper;
+    char const* const shorter = keeper.init("ab");
+    char const* const longer = keeper.keep(std::string("ab\0", 3));
+    EXPECT_NE(shorter, longer);
+    EXPECT_EQ(keeper.init("ab"), shorter);
+}

@@ -1,0 +1,34 @@
+#ifndef QUEN_3_1_VALUES_TEXT_ARENA_H
+#define QUEN_3_1_VALUES_TEXT_ARENA_H
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace quen_3_1 {
+
+// Append-only storage for NUL-terminated copies of texts. Copies never move
+// and are released together with the arena, so a keeper of many small texts
+// pays one allocation per block instead of one per text.
+class TextArena final {
+public:
+    TextArena() = default;
+    TextArena(TextArena const&) = delete;
+    TextArena& operator=(TextArena const&) = delete;
+
+    // A copy of `text` followed by a NUL; valid as long as the arena.
+    char const* copy(std::string_view text);
+
+private:
+    char* reserve(std::size_t size);
+
+    std::vector<std::unique_ptr<char[]>> m_blocks;
+    char* m_free = nullptr;
+    std::size_t m_left = 0;
+    std::size_t m_nextBlock = 256;
+};
+
+}  // namespace quen_3_1
+
+#endif
