@@ -10,12 +10,7 @@
 namespace quen_3_1 {
 
 ParseResult::ParseResult()
-    : m_valueCursor(0),
-      m_positionCursor(0),
-      m_from(0),
-      m_to(0x7fffffff),
-      m_current(m_options.end()),
-      m_argumentCursor(0) {}
+    : m_valueCursor(0), m_positionCursor(0), m_from(0), m_to(0x7fffffff), m_current(nullptr), m_argumentCursor(0) {}
 
 void ParseResult::destroy() { delete this; }
 

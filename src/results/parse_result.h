@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -49,13 +49,15 @@ public:
     int getFirstArgument(std::string& text);
     int getNextArgument(std::string& text);
 
-    std::map<std::string, OptionData> const& options() const { return m_options; }
+    std::unordered_map<std::string, OptionData> const& options() const { return m_options; }
     std::vector<std::pair<std::string, std::int32_t>> const& arguments() const { return m_arguments; }
 
 private:
-    using OptionMap = std::map<std::string, OptionData>;
+    // Nothing depends on the order of the names, so a hash map serves; its
+    // elements stay in place when it grows, which m_current relies on.
+    using OptionMap = std::unordered_map<std::string, OptionData>;
 
-    bool hasCurrent() const { return m_current != m_options.end(); }
+    bool hasCurrent() const { return m_current != nullptr; }
     template <class Query>
     Value publicQuery(char const* name, Query query);
     int readDefault(char const** text, tarvo2::variant_t& value, int& number);
@@ -68,7 +70,7 @@ private:
     std::size_t m_positionCursor;
     std::int32_t m_from;
     std::int32_t m_to;
-    OptionMap::iterator m_current;
+    OptionData* m_current;  // null when the last lookup failed
     Garbage m_garbage;
     std::vector<std::pair<std::string, std::int32_t>> m_arguments;
     std::size_t m_argumentCursor;

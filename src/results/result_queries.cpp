@@ -23,13 +23,14 @@ int ParseResult::get(std::string const& name, char const** text, tarvo2::variant
     try {
         m_from = from;
         m_to = to;
-        m_current = m_options.find(name);
+        auto const found = m_options.find(name);
+        m_current = found == m_options.end() ? nullptr : &found->second;
         if (!hasCurrent()) {
             return 1;
         }
         m_valueCursor = 0;
         m_positionCursor = 0;
-        OptionData const& data = m_current->second;
+        OptionData const& data = *m_current;
         if (onlyDefault(data)) {
             return readDefault(text, value, number);
         }
@@ -56,7 +57,7 @@ int ParseResult::next(std::string const& /*name*/, char const** text, tarvo2::va
 }
 
 int ParseResult::readDefault(char const** text, tarvo2::variant_t& value, int& number) {
-    ValueEntry const& entry = m_current->second.m_default;
+    ValueEntry const& entry = m_current->m_default;
     if (text != nullptr) {
         *text = m_garbage.keep(entry.first.first);
     }
@@ -69,7 +70,7 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
     if (!hasCurrent()) {
         return 1;
     }
-    OptionData const& data = m_current->second;
+    OptionData const& data = *m_current;
     if (onlyDefault(data)) {
         // present() arms a single delivery of the default by setting both bounds to the maximum.
         if (m_from != kNoNumber || m_to != kNoNumber) {
@@ -88,7 +89,7 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
 
 // The upper bound is included for values, unlike for occurrences.
 int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& number) {
-    std::vector<ValueEntry> const& values = m_current->second.m_values;
+    std::vector<ValueEntry> const& values = m_current->m_values;
     while (m_valueCursor < values.size() && values[m_valueCursor].second < m_from) {
         ++m_valueCursor;
     }
@@ -106,7 +107,7 @@ int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& num
 
 // Options without values yield their occurrence numbers, past the range too.
 int ParseResult::nextOccurrence(int& number) {
-    std::vector<std::int32_t> const& positions = m_current->second.m_positions;
+    std::vector<std::int32_t> const& positions = m_current->m_positions;
     if (m_positionCursor >= positions.size()) {
         return 1;
     }
@@ -119,7 +120,7 @@ bool ParseResult::present(char const* name, int from, int to) {
     tarvo2::variant_t scratchValue;
     int scratchNumber = 0;
     int const code = get(key, nullptr, scratchValue, from, to, scratchNumber);
-    if (code == 0 && onlyDefault(m_current->second)) {
+    if (code == 0 && onlyDefault(*m_current)) {
         m_from = kNoNumber;
         m_to = kNoNumber;
     }
@@ -127,14 +128,17 @@ bool ParseResult::present(char const* name, int from, int to) {
 }
 
 // The public form of a query: a Value, the not-found one on failure. A
-// standard exception in the wrapper itself (a null name) reads as status 1.
+// standard exception in the wrapper itself (building the key) reads as status 1,
+// and so does a null name, for which building the key would fail.
 template <class Query>
 Value ParseResult::publicQuery(char const* name, Query query) {
+    if (name == nullptr) {
+        return notFound(1);
+    }
     try {
-        std::string const key(name);
         char const* text = nullptr;
         Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
-        int const code = query(key, &text, result.m_value, result.m_index);
+        int const code = query(&text, result.m_value, result.m_index);
         if (code != 0) {
             return notFound(code);
         }
@@ -146,13 +150,17 @@ Value ParseResult::publicQuery(char const* name, Query query) {
 }
 
 Value ParseResult::get(char const* name, int from, int to) {
-    return publicQuery(name, [this, from, to](std::string const& key, char const** text, tarvo2::variant_t& value,
-                                              int& number) { return get(key, text, value, from, to, number); });
+    return publicQuery(name, [this, name, from, to](char const** text, tarvo2::variant_t& value, int& number) {
+        return get(std::string(name), text, value, from, to, number);
+    });
 }
 
+// An iteration goes on with the option of the last lookup whatever the name
+// says, so the name is not even copied.
 Value ParseResult::next(char const* name) {
-    return publicQuery(name, [this](std::string const& key, char const** text, tarvo2::variant_t& value, int& number) {
-        return next(key, text, value, number);
+    return publicQuery(name, [this](char const** text, tarvo2::variant_t& value, int& number) {
+        static std::string const unread;
+        return next(unread, text, value, number);
     });
 }
 
@@ -160,7 +168,7 @@ int ParseResult::nextPosition() {
     if (!hasCurrent()) {
         return kNoNumber;
     }
-    std::vector<std::int32_t> const& positions = m_current->second.m_positions;
+    std::vector<std::int32_t> const& positions = m_current->m_positions;
     if (m_positionCursor >= positions.size()) {
         return kNoNumber;
     }
