@@ -5,7 +5,8 @@
 // integer, 'c' text, 'h' no value; names comma-separated), "s<n><name>"
 // adds a synonym to the n-th declared option, "p<n>" makes it positional;
 // any other line is a typed name, matched and recognized both ways, and a
-// value text, converted to every kind both ways.
+// value text, converted to every kind both ways. The whole input is also
+// split into option-text arguments both ways.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "frontend/option_text_lines.h"
 #include "frontend/trace.h"
 #include "fuzz_support.h"
 #include "options/name_index.h"
@@ -157,6 +159,15 @@ void compareConversions(std::string const& line) {
     }
 }
 
+// The whole input as an option text (up to a NUL, as a C string ends): the
+// line splitter finds the arguments reading a string stream finds.
+void compareOptionText(std::uint8_t const* data, std::size_t size) {
+    auto const* const text = reinterpret_cast<char const*>(data);
+    std::string const whole(text, strnlen(text, size));
+    quen_fuzz::check(quen_3_1::argumentsOfText(whole) == quen_test::argumentsOfTextByStream(whole),
+                     "option text lines equal the stream's");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
@@ -185,5 +196,6 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         }
     }
     compareFirstPositional(storage);
+    compareOptionText(data, size);
     return 0;
 }

@@ -1,10 +1,9 @@
 // The two ways arguments arrive: a process command line and an option text
 // with one argument per line.
 #include <exception>
-#include <locale>
-#include <sstream>
 
 #include "frontend/basic_parser.h"
+#include "frontend/option_text_lines.h"
 #include "frontend/ustring.h"
 #include "results/parse_result.h"
 
@@ -13,33 +12,6 @@ namespace quen_3_1 {
 namespace {
 
 ParseResult* asParseResult(IParseResult* result) { return dynamic_cast<ParseResult*>(result); }
-
-// One argument per line: leading blanks skipped, ';' and '#' lines dropped,
-// only trailing '\r'/'\n' removed (trailing blanks and tabs are data).
-std::vector<std::string> argumentsOfText(std::string const& text) {
-    std::vector<std::string> args;
-    std::ctype<char> const& ctype = std::use_facet<std::ctype<char>>(std::locale());
-    std::stringstream stream(text);
-    std::string line;
-    while (!stream.eof()) {
-        std::getline(stream, line);
-        std::size_t first = 0;
-        while (first < line.size() && ctype.is(std::ctype_base::space, line[first])) {
-            ++first;
-        }
-        if (first < line.size() && (line[first] == ';' || line[first] == '#')) {
-            continue;
-        }
-        std::size_t last = line.size();
-        while (last > first && (line[last - 1] == '\r' || line[last - 1] == '\n')) {
-            --last;
-        }
-        if (last > first) {
-            args.emplace_back(line, first, last - first);
-        }
-    }
-    return args;
-}
 
 }  // namespace
 

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "frontend/option_text_lines.h"
 #include "frontend/trace.h"
 #include "options/name_index.h"
 #include "options/option_description.h"
@@ -625,3 +626,59 @@ TEST_F(FastPath, ClassicGlobalLocaleTakesTheFastPath) {
     EXPECT_EQ(quen_3_1::classicExtraction(), quen_3_1::ExtractionSupport::Classic);
 }
 #endif
+
+namespace {
+
+// Texts over few characters, so that blanks of every kind, comment marks,
+// carriage returns and empty lines meet in every order.
+std::string optionText(std::mt19937& random) {
+    static char const kAlphabet[] = {' ', '\t', '\r', '\n', '\v', '\f', ';',    '#',   '-',
+                                     'a', '=',  'x',  '\n', '\r', ' ',  '\xa0', '\x85'};
+    std::uniform_int_distribution<std::size_t> length(0, 40);
+    std::uniform_int_distribution<std::size_t> pick(0, sizeof kAlphabet - 1);
+    std::string text(length(random), ' ');
+    for (char& c : text) {
+        c = kAlphabet[pick(random)];
+    }
+    return text;
+}
+
+// The classic table, with '-' and the byte 0xA0 also counted as white space.
+class WideBlanks : public std::ctype<char> {
+public:
+    WideBlanks() : std::ctype<char>(table()) {}
+
+private:
+    static mask const* table() {
+        static std::vector<mask> const blanks = [] {
+            std::vector<mask> t(classic_table(), classic_table() + table_size);
+            t[static_cast<unsigned char>('-')] |= space;
+            t[0xa0] |= space;
+            return t;
+        }();
+        return blanks.data();
+    }
+};
+
+}  // namespace
+
+TEST_F(FastPath, OptionTextLinesEqualReadingAStringStream) {
+    for (char const* text : {"", "\n", "-a", "-a\n", "  -a\r\n\t-a\n-a  ", "#-a\n;-b\n-c#d", "\r\n\r", "\n\n-x\n\n"}) {
+        EXPECT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+    }
+    std::mt19937 random(2718281);
+    for (int i = 0; i < 20000; ++i) {
+        std::string const text = optionText(random);
+        ASSERT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+    }
+}
+
+TEST_F(FastPath, OptionTextLinesFollowTheGlobalLocalesBlanks) {
+    GlobalLocale const wide(std::locale(std::locale::classic(), new WideBlanks));
+    EXPECT_EQ(quen_3_1::argumentsOfText("--a\n\xa0-b"), std::vector<std::string>({"a", "b"}));
+    std::mt19937 random(1414213);
+    for (int i = 0; i < 5000; ++i) {
+        std::string const text = optionText(random);
+        ASSERT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+    }
+}

@@ -1,9 +1,11 @@
-// The straightforward forms of what the library does through its name index,
-// kept outside the library as the reference that the differential test and
-// fuzz target compare the fast paths with.
+// The straightforward forms of what the library does through its name index
+// and its line splitter, kept outside the library as the reference that the
+// differential test and fuzz target compare the fast paths with.
 #ifndef QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
 #define QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
 
+#include <locale>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -56,6 +58,33 @@ inline bool sameMatches(std::vector<quen_3_1::AbbreviationParser::NameMatch> con
         }
     }
     return true;
+}
+
+// The arguments of an option text read line by line from a string stream,
+// blanks classified one character at a time by the global locale.
+inline std::vector<std::string> argumentsOfTextByStream(std::string const& text) {
+    std::vector<std::string> args;
+    std::ctype<char> const& ctype = std::use_facet<std::ctype<char>>(std::locale());
+    std::stringstream stream(text);
+    std::string line;
+    while (!stream.eof()) {
+        std::getline(stream, line);
+        std::size_t first = 0;
+        while (first < line.size() && ctype.is(std::ctype_base::space, line[first])) {
+            ++first;
+        }
+        if (first < line.size() && (line[first] == ';' || line[first] == '#')) {
+            continue;
+        }
+        std::size_t last = line.size();
+        while (last > first && (line[last - 1] == '\r' || line[last - 1] == '\n')) {
+            --last;
+        }
+        if (last > first) {
+            args.emplace_back(line, first, last - first);
+        }
+    }
+    return args;
 }
 
 }  // namespace quen_test
