@@ -12,6 +12,13 @@ constexpr std::int32_t kNoNumber = 0x7fffffff;
 
 Value notFound(std::int32_t status) { return Value{nullptr, status, kNoNumber, tarvo2::variant_t()}; }
 
+void makeNotFound(Value& value, std::int32_t status) {
+    value.m_text = nullptr;
+    value.m_status = status;
+    value.m_index = kNoNumber;
+    value.m_value = tarvo2::variant_t();
+}
+
 bool hasDefault(OptionData const& data) { return !data.m_default.first.first.empty(); }
 
 bool onlyDefault(OptionData const& data) { return data.m_positions.empty() && hasDefault(data); }
@@ -129,24 +136,26 @@ bool ParseResult::present(char const* name, int from, int to) {
 
 // The public form of a query: a Value, the not-found one on failure. A
 // standard exception in the wrapper itself (building the key) reads as status 1,
-// and so does a null name, for which building the key would fail.
+// and so does a null name, for which building the key would fail. Every path
+// returns the one local Value, so it is built in place and its variant is
+// never copied on the way out.
 template <class Query>
 Value ParseResult::publicQuery(char const* name, Query query) {
-    if (name == nullptr) {
-        return notFound(1);
-    }
-    try {
-        char const* text = nullptr;
-        Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
-        int const code = query(&text, result.m_value, result.m_index);
-        if (code != 0) {
-            return notFound(code);
+    Value result{nullptr, 0, kNoNumber, tarvo2::variant_t()};
+    int code = 1;
+    if (name != nullptr) {
+        try {
+            char const* text = nullptr;
+            code = query(&text, result.m_value, result.m_index);
+            result.m_text = text;
+        } catch (std::exception const&) {
+            code = 1;
         }
-        result.m_text = text;
-        return result;
-    } catch (std::exception const&) {
-        return notFound(1);
     }
+    if (code != 0) {
+        makeNotFound(result, code);
+    }
+    return result;
 }
 
 Value ParseResult::get(char const* name, int from, int to) {
