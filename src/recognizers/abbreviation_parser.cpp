@@ -13,10 +13,10 @@ namespace {
 constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
 
 // The typed name: what follows the leading hyphens, up to the first '='.
-std::string typedName(std::string const& argument, std::size_t hyphens) {
+std::string_view typedName(std::string const& argument, std::size_t hyphens) {
     std::size_t const equals = argument.find('=');
     std::size_t const end = equals == std::string::npos ? argument.size() : equals;
-    return argument.substr(hyphens, end - hyphens);
+    return std::string_view(argument).substr(hyphens, end - hyphens);
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& s
         return 1;
     }
     std::size_t const hyphens = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
-    std::string const typed = typedName(argument, hyphens);
+    std::string_view const typed = typedName(argument, hyphens);
     std::size_t best = 0;
     int const found = findBestIndexed(storage.names(), typed, best, message);
     if (found == 2) {
@@ -58,10 +58,10 @@ int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, R
                               std::string& message) {
     std::string const& argument = args[0];
     internal::trace(m_name, ": parsing argument '", argument, "'");
-    if (m_bestMatches.size() > 1) {
+    if (bestCount() > 1) {
         std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
-        message = "Ambiguous option '" + typedName(argument, hyphens) + "'" + tokenPart(args) +
-                  ", could be: " + listNames(m_bestMatches);
+        message = "Ambiguous option '" + std::string(typedName(argument, hyphens)) + "'" + tokenPart(args) +
+                  ", could be: " + listNames(bestMatches());
         return 2;
     }
     OptionDescription const& option = storage.at(m_optionIndex);
@@ -108,7 +108,7 @@ int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const&
                                  "'--option' or '--no-option'" + tokenPart(args));
     }
     // The matched name decides, so a boolean whose own name starts with "no-" gives "0".
-    value = m_bestMatches.front().name.getName().compare(0, 3, "no-") == 0 ? "0" : "1";
+    value = bestMatches().front().name.getName().compare(0, 3, "no-") == 0 ? "0" : "1";
     return 0;
 }
 

@@ -47,10 +47,13 @@ public:
     // candidates with as many parts and a first part that `typed`'s first
     // part begins can score, and a candidate equal to `typed` beats every
     // other. `best` is the winning candidate of the index.
-    int findBestIndexed(NameIndex const& index, std::string const& typed, std::size_t& best, std::string& message);
+    int findBestIndexed(NameIndex const& index, std::string_view typed, std::size_t& best, std::string& message);
 
     std::size_t optionIndex() const { return m_optionIndex; }
-    std::vector<NameMatch> const& bestMatches() const { return m_bestMatches; }
+    // The best matches of the last findBest or findBestIndexed. The indexed
+    // search keeps only the winners' ids; their records are built on first use.
+    std::vector<NameMatch> const& bestMatches() const;
+    std::size_t bestCount() const { return m_pendingIndex != nullptr ? m_bestIds.size() : m_bestMatches.size(); }
 
     // 'a', 'b', 'c': the names of `matches` as messages list them.
     static std::string listNames(std::vector<NameMatch> const& matches);
@@ -64,7 +67,11 @@ private:
     std::string tokenPart(ArgumentList const& args);
 
     std::size_t m_optionIndex;
-    std::vector<NameMatch> m_bestMatches;
+    mutable std::vector<NameMatch> m_bestMatches;
+    // The index whose winners (m_bestIds, all scoring m_bestScore) are not
+    // turned into m_bestMatches yet; null once they are.
+    mutable NameIndex const* m_pendingIndex = nullptr;
+    std::int32_t m_bestScore = 0;
     // Working storage of findBestIndexed, kept to spare allocations.
     std::vector<std::string_view> m_typedParts;
     std::vector<std::size_t> m_shaped;

@@ -49,9 +49,8 @@ std::int32_t scoreText(std::vector<std::string_view> const& typed, std::string_v
     return score;
 }
 
-void splitParts(std::string const& name, std::vector<std::string_view>& parts) {
+void splitParts(std::string_view whole, std::vector<std::string_view>& parts) {
     parts.clear();
-    std::string_view const whole(name);
     std::size_t start = 0;
     for (;;) {
         std::size_t const hyphen = whole.find('-', start);
@@ -97,6 +96,7 @@ void AbbreviationParser::makeNameMatch(std::vector<NameMatch>& matches, Decompos
 }
 
 int AbbreviationParser::findBest(std::vector<NameMatch> const& matches, DecomposedName& best, std::string& message) {
+    m_pendingIndex = nullptr;
     m_bestMatches.clear();
     std::int32_t bestScore = 0;
     for (NameMatch const& match : matches) {
@@ -121,7 +121,7 @@ int AbbreviationParser::findBest(std::vector<NameMatch> const& matches, Decompos
     return 0;
 }
 
-int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string const& typed, std::size_t& best,
+int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string_view typed, std::size_t& best,
                                         std::string& message) {
     splitParts(typed, m_typedParts);
     m_bestIds.clear();
@@ -148,21 +148,30 @@ int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string cons
             }
         }
     }
-    m_bestMatches.resize(m_bestIds.size());
-    for (std::size_t i = 0; i < m_bestIds.size(); ++i) {
-        m_bestMatches[i].sameLength = true;
-        m_bestMatches[i].score = bestScore;
-        m_bestMatches[i].name.assign(index.candidate(m_bestIds[i]).text);
-    }
+    m_bestScore = bestScore;
+    m_pendingIndex = &index;
     if (m_bestIds.empty()) {
         return 1;
     }
     if (m_bestIds.size() > 1) {
-        message = "Ambiguous option, possible options are: " + listNames(m_bestMatches);
+        message = "Ambiguous option, possible options are: " + listNames(bestMatches());
         return 2;
     }
     best = m_bestIds.front();
     return 0;
+}
+
+std::vector<AbbreviationParser::NameMatch> const& AbbreviationParser::bestMatches() const {
+    if (m_pendingIndex != nullptr) {
+        m_bestMatches.resize(m_bestIds.size());
+        for (std::size_t i = 0; i < m_bestIds.size(); ++i) {
+            m_bestMatches[i].sameLength = true;
+            m_bestMatches[i].score = m_bestScore;
+            m_bestMatches[i].name.assign(m_pendingIndex->candidate(m_bestIds[i]).text);
+        }
+        m_pendingIndex = nullptr;
+    }
+    return m_bestMatches;
 }
 
 }  // namespace quen_3_1
