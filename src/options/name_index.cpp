@@ -6,9 +6,9 @@
 namespace quen_3_1 {
 
 void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
-    insert(Candidate{option, nameIndex, false, name, 0, 0, npos, npos});
+    insert(Candidate{option, nameIndex, false, name, 0, 0});
     if (boolean) {
-        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0, npos, npos});
+        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0});
     }
 }
 
@@ -17,14 +17,23 @@ void NameIndex::insert(Candidate candidate) {
     candidate.firstEnd = std::min(candidate.text.find('-'), candidate.text.size());
     std::size_t const id = m_candidates.size();
     m_candidates.push_back(std::move(candidate));
-    Candidate const& stored = m_candidates.back();
-    std::string_view const text(stored.text);
-    link(m_named.try_emplace(text, Chain{npos, npos}).first->second, id, &Candidate::nextSame);
-    if (m_shapes.size() <= stored.parts) {
-        m_shapes.resize(stored.parts + 1);
+    m_nextSame.push_back(npos);
+    std::string_view const text(m_candidates.back().text);
+    link(m_named.try_emplace(text, Chain{npos, npos}).first->second, id, m_nextSame);
+}
+
+// Links the candidates added since the last call. link() places each by
+// candidate-list order, so linking later gives the chains linking at once would.
+void NameIndex::linkShapes() const {
+    for (std::size_t id = m_nextShape.size(); id < m_candidates.size(); ++id) {
+        Candidate const& candidate = m_candidates[id];
+        if (m_shapes.size() <= candidate.parts) {
+            m_shapes.resize(candidate.parts + 1);
+        }
+        m_nextShape.push_back(npos);
+        std::string_view const first = std::string_view(candidate.text).substr(0, candidate.firstEnd);
+        link(m_shapes[candidate.parts].try_emplace(first, Chain{npos, npos}).first->second, id, m_nextShape);
     }
-    Chain& shape = m_shapes[stored.parts].try_emplace(text.substr(0, stored.firstEnd), Chain{npos, npos}).first->second;
-    link(shape, id, &Candidate::nextShape);
 }
 
 // Candidate-list order: by option, then by name, the plain name before its "no-" form.
@@ -42,28 +51,28 @@ bool NameIndex::before(std::size_t a, std::size_t b) const {
 
 // Registration appends at the tail; a synonym added to an earlier option
 // lands before later options' names.
-void NameIndex::link(Chain& chain, std::size_t id, std::size_t Candidate::*next) {
+void NameIndex::link(Chain& chain, std::size_t id, std::vector<std::size_t>& next) const {
     if (chain.head == npos) {
         chain.head = id;
         chain.tail = id;
         return;
     }
     if (before(chain.tail, id)) {
-        m_candidates[chain.tail].*next = id;
+        next[chain.tail] = id;
         chain.tail = id;
         return;
     }
     if (before(id, chain.head)) {
-        m_candidates[id].*next = chain.head;
+        next[id] = chain.head;
         chain.head = id;
         return;
     }
     std::size_t at = chain.head;
-    while (before(m_candidates[at].*next, id)) {
-        at = m_candidates[at].*next;
+    while (before(next[at], id)) {
+        at = next[at];
     }
-    m_candidates[id].*next = m_candidates[at].*next;
-    m_candidates[at].*next = id;
+    next[id] = next[at];
+    next[at] = id;
 }
 
 std::size_t NameIndex::firstNamed(std::string_view name) const {
@@ -73,6 +82,7 @@ std::size_t NameIndex::firstNamed(std::string_view name) const {
 
 // The first parts that begin with `first` are one run of the ordered map.
 void NameIndex::withShape(std::size_t parts, std::string_view first, std::vector<std::size_t>& out) const {
+    linkShapes();
     if (parts >= m_shapes.size()) {
         return;
     }
@@ -81,7 +91,7 @@ void NameIndex::withShape(std::size_t parts, std::string_view first, std::vector
     std::size_t runs = 0;
     for (auto it = byFirst.lower_bound(first); it != byFirst.end() && it->first.substr(0, first.size()) == first;
          ++it) {
-        for (std::size_t id = it->second.head; id != npos; id = m_candidates[id].nextShape) {
+        for (std::size_t id = it->second.head; id != npos; id = m_nextShape[id]) {
             out.push_back(id);
         }
         ++runs;

@@ -24,24 +24,25 @@ public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
 
     struct Candidate {
-        std::size_t option;     // index of the option in the registry
-        std::size_t name;       // index of the name in the option's names
-        bool negated;           // the "no-" form of a boolean option's name
-        std::string text;       // the name as a whole ("no-" included)
-        std::size_t parts;      // number of '-'-separated parts
-        std::size_t firstEnd;   // length of the first part
-        std::size_t nextSame;   // next candidate with the same text, or npos
-        std::size_t nextShape;  // next candidate with the same parts and first part, or npos
+        std::size_t option;    // index of the option in the registry
+        std::size_t name;      // index of the name in the option's names
+        bool negated;          // the "no-" form of a boolean option's name
+        std::string text;      // the name as a whole ("no-" included)
+        std::size_t parts;     // number of '-'-separated parts
+        std::size_t firstEnd;  // length of the first part
     };
 
     // Adds the option's name at `nameIndex` and, for a boolean, its "no-" form.
     void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean);
 
-    // The first candidate named exactly `name` (follow nextSame for the
+    // The first candidate named exactly `name` (follow nextNamed for the
     // others); npos when there is none.
     std::size_t firstNamed(std::string_view name) const;
+    // The candidate after `id` with the same name; npos after the last.
+    std::size_t nextNamed(std::size_t id) const { return m_nextSame[id]; }
     // Appends the candidates with `parts` parts whose first part begins with
-    // `first`, in candidate-list order.
+    // `first`, in candidate-list order. The chains by shape are built here, on
+    // first use: exact names, the common case, never need them.
     void withShape(std::size_t parts, std::string_view first, std::vector<std::size_t>& out) const;
 
     Candidate const& candidate(std::size_t id) const { return m_candidates[id]; }
@@ -54,14 +55,18 @@ private:
     };
 
     void insert(Candidate candidate);
+    void linkShapes() const;
     bool before(std::size_t a, std::size_t b) const;
-    void link(Chain& chain, std::size_t id, std::size_t Candidate::*next);
+    void link(Chain& chain, std::size_t id, std::vector<std::size_t>& next) const;
 
     // A deque, so that the keys below can view the candidates' texts.
     std::deque<Candidate> m_candidates;
     std::unordered_map<std::string_view, Chain> m_named;
-    // By number of parts, then by first part.
-    std::vector<std::map<std::string_view, Chain>> m_shapes;
+    std::vector<std::size_t> m_nextSame;  // by candidate: next with the same text
+    // By number of parts, then by first part, and by candidate the next one
+    // of the same shape: filled in lazily for the candidates added since.
+    mutable std::vector<std::map<std::string_view, Chain>> m_shapes;
+    mutable std::vector<std::size_t> m_nextShape;
 };
 
 }  // namespace quen_3_1

@@ -128,7 +128,7 @@ int AbbreviationParser::findBestIndexed(NameIndex const& index, std::string_view
     std::int32_t bestScore = 0;
     std::size_t const exact = index.firstNamed(typed);
     if (exact != NameIndex::npos) {
-        for (std::size_t id = exact; id != NameIndex::npos; id = index.candidate(id).nextSame) {
+        for (std::size_t id = exact; id != NameIndex::npos; id = index.nextNamed(id)) {
             m_bestIds.push_back(id);
         }
         bestScore = static_cast<std::int32_t>(2 * m_typedParts.size());
