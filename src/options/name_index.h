@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "values/text_hash.h"
+
 namespace quen_3_1 {
 
 // Every name the registry's options answer to, kept up to date as options
@@ -61,7 +63,7 @@ private:
 
     // A deque, so that the keys below can view the candidates' texts.
     std::deque<Candidate> m_candidates;
-    std::unordered_map<std::string_view, Chain> m_named;
+    std::unordered_map<std::string_view, Chain, TextHash> m_named;
     std::vector<std::size_t> m_nextSame;  // by candidate: next with the same text
     // By number of parts, then by first part, and by candidate the next one
     // of the same shape: filled in lazily for the candidates added since.

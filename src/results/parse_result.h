@@ -12,6 +12,7 @@
 #include "results/option_data.h"
 #include "results/result_collector.h"
 #include "values/garbage.h"
+#include "values/text_hash.h"
 
 namespace quen_3_1 {
 
@@ -49,13 +50,13 @@ public:
     int getFirstArgument(std::string& text);
     int getNextArgument(std::string& text);
 
-    std::unordered_map<std::string, OptionData> const& options() const { return m_options; }
+    std::unordered_map<std::string, OptionData, TextHash> const& options() const { return m_options; }
     std::vector<std::pair<std::string, std::int32_t>> const& arguments() const { return m_arguments; }
 
 private:
     // Nothing depends on the order of the names, so a hash map serves; its
     // elements stay in place when it grows, which m_current relies on.
-    using OptionMap = std::unordered_map<std::string, OptionData>;
+    using OptionMap = std::unordered_map<std::string, OptionData, TextHash>;
 
     bool hasCurrent() const { return m_current != nullptr; }
     template <class Query>

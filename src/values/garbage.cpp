@@ -1,7 +1,6 @@
 #include "values/garbage.h"
 
-#include <cstring>
-#include <functional>
+#include "values/text_hash.h"
 
 namespace quen_3_1 {
 
@@ -23,24 +22,23 @@ char const* Garbage::keep(std::string_view text) {
     if (2 * (m_count + 1) > m_strings.size()) {
         grow();
     }
-    std::size_t const hash = std::hash<std::string_view>()(text);
+    std::uint64_t const hash = hashText(text);
     std::size_t const mask = m_strings.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
         Slot& slot = m_strings[i];
         if (slot.text == nullptr) {
-            slot = Slot{hash, m_arena.copy(text), text.size()};
+            slot = Slot{hash, m_arena.copy(text)};
             ++m_count;
             return slot.text;
         }
-        if (slot.hash == hash && slot.size == text.size() &&
-            (text.empty() || std::memcmp(slot.text, text.data(), text.size()) == 0)) {
+        if (slot.hash == hash && TextArena::copied(slot.text) == text) {
             return slot.text;
         }
     }
 }
 
 void Garbage::grow() {
-    std::vector<Slot> old(m_strings.empty() ? kFirstCapacity : 2 * m_strings.size(), Slot{0, nullptr, 0});
+    std::vector<Slot> old(m_strings.empty() ? kFirstCapacity : 2 * m_strings.size(), Slot{0, nullptr});
     old.swap(m_strings);
     std::size_t const mask = m_strings.size() - 1;
     for (Slot const& slot : old) {

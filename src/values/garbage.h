@@ -2,6 +2,7 @@
 #define QUEN_3_1_VALUES_GARBAGE_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -25,11 +26,11 @@ public:
     char const* keep(std::string_view text);
 
 private:
-    // One interned text; a null `text` marks a free slot.
+    // One interned text (its length is kept by the arena); a null `text`
+    // marks a free slot.
     struct Slot {
-        std::size_t hash;
+        std::uint64_t hash;
         char const* text;
-        std::size_t size;
     };
 
     void grow();

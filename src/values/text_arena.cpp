@@ -11,12 +11,20 @@ constexpr std::size_t kLargestBlock = 64 * 1024;
 }  // namespace
 
 char const* TextArena::copy(std::string_view text) {
-    char* const out = reserve(text.size() + 1);
-    if (!text.empty()) {
-        std::memcpy(out, text.data(), text.size());
+    std::size_t const size = text.size();
+    char* const out = reserve(sizeof size + size + 1) + sizeof size;
+    std::memcpy(out - sizeof size, &size, sizeof size);
+    if (size != 0) {
+        std::memcpy(out, text.data(), size);
     }
-    out[text.size()] = '\0';
+    out[size] = '\0';
     return out;
+}
+
+std::string_view TextArena::copied(char const* copy) {
+    std::size_t size = 0;
+    std::memcpy(&size, copy - sizeof size, sizeof size);
+    return std::string_view(copy, size);
 }
 
 // Blocks grow geometrically up to a cap; a text larger than a quarter of the

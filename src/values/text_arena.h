@@ -8,9 +8,9 @@
 
 namespace quen_3_1 {
 
-// Append-only storage for NUL-terminated copies of texts. Copies never move
-// and are released together with the arena, so a keeper of many small texts
-// pays one allocation per block instead of one per text.
+// Append-only storage for NUL-terminated copies of texts, each preceded by its
+// length. Copies never move and are released together with the arena, so a
+// keeper of many small texts pays one allocation per block instead of one per text.
 class TextArena final {
 public:
     TextArena() = default;
@@ -19,6 +19,8 @@ public:
 
     // A copy of `text` followed by a NUL; valid as long as the arena.
     char const* copy(std::string_view text);
+    // The text a pointer from copy() stands for, NUL characters included.
+    static std::string_view copied(char const* copy);
 
 private:
     char* reserve(std::size_t size);

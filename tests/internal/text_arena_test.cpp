@@ -57,3 +57,12 @@ TEST(TextArena, LargeTextsBetweenSmallOnesKeepEveryCopyIntact) {
     EXPECT_EQ(std::string(mid), medium);
     EXPECT_STREQ(small2, "small-2");
 }
+
+TEST(TextArena, CopiedGivesBackTheWholeTextNulCharactersIncluded) {
+    TextArena arena;
+    std::string const withNul("x\0y\0", 4);
+    char const* const a = arena.copy(withNul);
+    char const* const b = arena.copy("");
+    EXPECT_EQ(TextArena::copied(a), withNul);
+    EXPECT_EQ(TextArena::copied(b), std::string_view());
+}
