@@ -42,7 +42,10 @@ int ParseResult::store(OptionDescription const& option, OptionData const& data) 
     auto const first = m_options.find(primary);
     if (first == m_options.end()) {
         for (std::string const& name : names) {
-            m_options[name] = data;
+            auto const placed = m_options.try_emplace(name, data);
+            if (!placed.second) {
+                placed.first->second = data;
+            }
         }
         return 0;
     }
