@@ -16,7 +16,9 @@ void makeNotFound(Value& value, std::int32_t status) {
     value.m_text = nullptr;
     value.m_status = status;
     value.m_index = kNoNumber;
-    value.m_value = tarvo2::variant_t();
+    if (value.m_value.m_type != tarvo2::vt_empty || value.m_value.m_data != 0) {
+        value.m_value = tarvo2::variant_t();
+    }
 }
 
 bool hasDefault(OptionData const& data) { return !data.m_default.first.first.empty(); }
