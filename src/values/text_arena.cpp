@@ -6,7 +6,7 @@ namespace quen_3_1 {
 
 namespace {
 
-constexpr std::size_t kLargestBlock = 64 * 1024;
+constexpr std::size_t kLargestBlock = std::size_t{64} * 1024;
 
 }  // namespace
 
