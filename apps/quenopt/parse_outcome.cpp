@@ -205,6 +205,7 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
         texts.push_back("quenopt");
         texts.insert(texts.end(), arguments.begin(), arguments.end());
         std::vector<char*> argv;
+        argv.reserve(texts.size() + 1);
         for (std::string& text : texts) {
             argv.push_back(text.data());
         }
