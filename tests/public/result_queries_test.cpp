@@ -503,3 +503,28 @@ TEST(ValueText, OtherReadsUseTheVariant) {
 }
 
 }  // namespace
+
+// A result parsed into again while an option is being read: the many new
+// options stored by the second parse do not disturb the iteration under way.
+TEST_F(ResultQuery, IterationSurvivesAnotherParseIntoTheSameResult) {
+    ParserHarness harness;
+    harness.option("level", tarvo2::vt_int);
+    std::string text;
+    for (int i = 0; i < 300; ++i) {
+        std::string const name = "option-" + std::to_string(i);
+        harness.option(name.c_str(), tarvo2::vt_int);
+        text += "--" + name + "=" + std::to_string(i) + "\n";
+    }
+    ASSERT_EQ(harness.parseArgs({"--level=1", "--level=2", "--level=3"}), 0);
+    IParseResult* const result = harness.result();
+
+    Value const first = result->get("level", 0, kNoNumber);
+    EXPECT_STREQ(first.m_text, "1");
+    ASSERT_EQ(harness.parseText(text.c_str()), 0);
+    Value const second = result->next("level");
+    EXPECT_STREQ(second.m_text, "2");
+    Value const third = result->next("level");
+    EXPECT_STREQ(third.m_text, "3");
+    expectNotFound(result->next("level"));
+    EXPECT_EQ(textsOf(result, "option-299"), StringList({"299"}));
+}
