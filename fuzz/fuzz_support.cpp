@@ -29,7 +29,9 @@ void walkValues(quen_3_1::IParseResult* result, std::string const& name, HandedO
     int steps = 0;
     while (value.m_status == 0) {
         texts.keep(value.m_text);
-        check(value.m_index > previous, "sequence numbers grow along get/next");
+        // Equal numbers follow each other under a name that one declaration
+        // lists twice: each later value is stored under it twice.
+        check(value.m_index >= previous, "sequence numbers never fall along get/next");
         previous = value.m_index;
         check(++steps < kLoopLimit, "get/next loop ends");
         value = result->next(name.c_str());
@@ -46,7 +48,7 @@ void walkPositions(quen_3_1::IParseResult* result, std::string const& name) {
     int previous = -1;
     int steps = 0;
     for (int position = result->nextPosition(); position != kNoNumber; position = result->nextPosition()) {
-        check(position > previous, "occurrence numbers grow");
+        check(position >= previous, "occurrence numbers never fall");
         previous = position;
         check(++steps < kLoopLimit, "nextPosition loop ends");
     }
