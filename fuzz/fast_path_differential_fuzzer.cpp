@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -114,16 +113,6 @@ void compareFirstPositional(RegisteredOptionStorage const& storage) {
 }
 
 template <class T>
-bool streamExtract(char const* text, T& value, bool hex) {
-    std::stringstream stream(text);
-    if (hex) {
-        stream >> std::hex;
-    }
-    stream >> value;
-    return !stream.fail();
-}
-
-template <class T>
 bool sameValue(T a, T b) {
     return a == b;
 }
@@ -138,7 +127,7 @@ void compareExtraction(char const* text, char const* what) {
     T fast{};
     T slow{};
     bool const fastOk = quen_3_1::extractClassic(text, fast);
-    bool const slowOk = streamExtract(text, slow, false);
+    bool const slowOk = quen_test::extractByStream(text, slow);
     quen_fuzz::check(fastOk == slowOk && (!slowOk || sameValue(fast, slow)), what);
 }
 
@@ -154,7 +143,7 @@ void compareConversions(std::string const& line) {
         unsigned long long fast = 0;
         unsigned long long slow = 0;
         bool const fastOk = quen_3_1::extractClassic(text, fast, hex);
-        bool const slowOk = streamExtract(text, slow, hex);
+        bool const slowOk = quen_test::extractByStream(text, slow, hex);
         quen_fuzz::check(fastOk == slowOk && (!slowOk || fast == slow), "unsigned 64-bit extraction equals the stream");
     }
 }

@@ -7,7 +7,6 @@
 #include <cstring>
 #include <locale>
 #include <random>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -302,16 +301,6 @@ TEST_F(FastPath, CopyOfAStoredOptionDoesNotTouchTheIndex) {
 
 namespace {
 
-template <class T>
-bool streamExtract(std::string const& text, T& value, bool hex = false) {
-    std::stringstream stream(text.c_str());
-    if (hex) {
-        stream >> std::hex;
-    }
-    stream >> value;
-    return !stream.fail();
-}
-
 std::uint64_t bitsOf(double d) {
     std::uint64_t bits = 0;
     std::memcpy(&bits, &d, sizeof bits);
@@ -450,55 +439,53 @@ private:
 
 }  // namespace
 
+namespace {
+
+// The stream-free extraction of one kind; only the unsigned 64-bit kind reads hexadecimal.
+template <class T>
+bool fastExtract(std::string const& text, T& value, bool /*hex*/) {
+    return quen_3_1::extractClassic(text.c_str(), value);
+}
+
+bool fastExtract(std::string const& text, unsigned long long& value, bool hex) {
+    return quen_3_1::extractClassic(text.c_str(), value, hex);
+}
+
+// Values compare as they are, doubles bit for bit.
+template <class T>
+T comparable(T value) {
+    return value;
+}
+
+std::uint64_t comparable(double value) { return bitsOf(value); }
+
+// Both extractions decide alike and, when they succeed, read the same value.
+template <class T>
+void expectSameExtraction(std::string const& text, bool hex = false) {
+    T fast{};
+    T slow{};
+    bool const ok = quen_test::extractByStream(text.c_str(), slow, hex);
+    ASSERT_EQ(fastExtract(text, fast, hex), ok) << "hex " << hex;
+    if (ok) {
+        EXPECT_EQ(comparable(fast), comparable(slow)) << "hex " << hex;
+    }
+}
+
+}  // namespace
+
 TEST_F(FastPath, ClassicExtractionEqualsTheStreamOnArbitraryText) {
     NumberTexts texts(424242);
     for (int i = 0; i < 40000; ++i) {
         std::string const text = texts.next();
         SCOPED_TRACE("text '" + text + "'");
-        bool fastBool = false;
-        bool slowBool = false;
-        bool const boolOk = streamExtract(text, slowBool);
-        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastBool), boolOk);
-        if (boolOk) {
-            EXPECT_EQ(fastBool, slowBool);
-        }
-        int fastInt = 0;
-        int slowInt = 0;
-        bool const intOk = streamExtract(text, slowInt);
-        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastInt), intOk);
-        if (intOk) {
-            EXPECT_EQ(fastInt, slowInt);
-        }
-        unsigned int fastUnsigned = 0;
-        unsigned int slowUnsigned = 0;
-        bool const unsignedOk = streamExtract(text, slowUnsigned);
-        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastUnsigned), unsignedOk);
-        if (unsignedOk) {
-            EXPECT_EQ(fastUnsigned, slowUnsigned);
-        }
-        long long fastLong = 0;
-        long long slowLong = 0;
-        bool const longOk = streamExtract(text, slowLong);
-        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastLong), longOk);
-        if (longOk) {
-            EXPECT_EQ(fastLong, slowLong);
-        }
+        ASSERT_NO_FATAL_FAILURE(expectSameExtraction<bool>(text));
+        ASSERT_NO_FATAL_FAILURE(expectSameExtraction<int>(text));
+        ASSERT_NO_FATAL_FAILURE(expectSameExtraction<unsigned int>(text));
+        ASSERT_NO_FATAL_FAILURE(expectSameExtraction<long long>(text));
         for (bool hex : {false, true}) {
-            unsigned long long fastWide = 0;
-            unsigned long long slowWide = 0;
-            bool const wideOk = streamExtract(text, slowWide, hex);
-            ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastWide, hex), wideOk) << "hex " << hex;
-            if (wideOk) {
-                EXPECT_EQ(fastWide, slowWide) << "hex " << hex;
-            }
+            ASSERT_NO_FATAL_FAILURE(expectSameExtraction<unsigned long long>(text, hex));
         }
-        double fastDouble = 0;
-        double slowDouble = 0;
-        bool const doubleOk = streamExtract(text, slowDouble);
-        ASSERT_EQ(quen_3_1::extractClassic(text.c_str(), fastDouble), doubleOk);
-        if (doubleOk) {
-            EXPECT_EQ(bitsOf(fastDouble), bitsOf(slowDouble));
-        }
+        ASSERT_NO_FATAL_FAILURE(expectSameExtraction<double>(text));
     }
 }
 
@@ -513,7 +500,7 @@ bool allHexDigits(std::string const& text, std::size_t from, std::size_t to) {
 template <class T>
 tarvo2::variant_t convertedByStream(std::string const& text) {
     T value{};
-    return streamExtract(text, value) ? tarvo2::variant_t(value) : tarvo2::variant_t();
+    return quen_test::extractByStream(text.c_str(), value) ? tarvo2::variant_t(value) : tarvo2::variant_t();
 }
 
 // The conversions as first written: a fresh stream for every value.
@@ -539,7 +526,8 @@ tarvo2::variant_t fromStringByStream(tarvo2::kel_variant_type_t kind, std::strin
                 hex = true;
             }
             unsigned long long value = 0;
-            return streamExtract(text, value, hex) ? tarvo2::variant_t(value) : tarvo2::variant_t();
+            return quen_test::extractByStream(text.c_str(), value, hex) ? tarvo2::variant_t(value)
+                                                                        : tarvo2::variant_t();
         }
         default:
             return tarvo2::variant_t();

@@ -1,5 +1,5 @@
 // The straightforward forms of what the library does through its name index
-// and its line splitter, kept outside the library as the reference that the
+// number extraction and line splitter, kept outside the library as the reference that the
 // differential test and fuzz target compare the fast paths with.
 #ifndef QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
 #define QUEN_TESTS_SUPPORT_STRAIGHTFORWARD_PATHS_H
@@ -58,6 +58,18 @@ inline bool sameMatches(std::vector<quen_3_1::AbbreviationParser::NameMatch> con
         }
     }
     return true;
+}
+
+// One value of type T read by a fresh string stream in its default state (or
+// in base 16): what the stream-free number extraction must agree with.
+template <class T>
+bool extractByStream(char const* text, T& value, bool hex = false) {
+    std::stringstream stream(text);
+    if (hex) {
+        stream >> std::hex;
+    }
+    stream >> value;
+    return !stream.fail();
 }
 
 // The arguments of an option text read line by line from a string stream,
