@@ -7,7 +7,7 @@
 namespace quen_3_1 {
 namespace internal {
 
-bool quenLogEnabled = false;
+thread_local bool quenLogEnabled = false;
 
 namespace {
 

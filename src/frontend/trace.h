@@ -7,8 +7,10 @@
 namespace quen_3_1 {
 namespace internal {
 
-// Process-wide trace switch; each parse resets it and the switch argument sets it.
-extern bool quenLogEnabled;
+// The trace switch of the calling thread; each parse resets it and the switch
+// argument sets it. One per thread, so that a parse traced on one thread never
+// makes another thread's parse print its arguments.
+extern thread_local bool quenLogEnabled;
 
 // A stream buffer whose writes all fail, so a stream over it discards output.
 template <class CharT>
