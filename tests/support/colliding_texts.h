@@ -54,14 +54,14 @@ inline std::uint64_t unmix(std::uint64_t state) {
 }  // namespace former_hash
 
 // True when no byte could be changed or dropped on the way into a command
-// line or an option text: no control character, blank or leading '-'.
+// line or an option text: no control character, blank, comma (the value separator) or leading '-'.
 inline bool plainBytes(std::string const& text) {
     for (char c : text) {
         if (static_cast<unsigned char>(c) <= 0x20) {
             return false;
         }
     }
-    return !text.empty() && text[0] != '-' && text[0] != ';' && text[0] != '#';
+    return !text.empty() && text[0] != '-' && text[0] != ';' && text[0] != '#' && text.find(',') == std::string::npos;
 }
 
 // `count` distinct 16-byte texts with one and the same former hash: the
