@@ -24,7 +24,7 @@ void randomWords(std::uint64_t (&words)[4]) noexcept {
             word = (static_cast<std::uint64_t>(device()) << 32) ^ device();
         }
     } catch (std::exception const&) {
-        return;
+        // No random source here: the key is made of the other ingredients.
     }
 }
 
