@@ -21,6 +21,8 @@
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/argument_list.h"
 #include "recognizers/decomposed_name.h"
+#include "support/literal_name_matching.h"
+#include "support/recognizer_probe.h"
 #include "support/straightforward_paths.h"
 #include "values/classic_extraction.h"
 
@@ -59,16 +61,16 @@ quen_3_1::kel_variant_type_t kindOf(char c) {
 
 // The choice of the best candidate both ways, and what the recognizer makes of it.
 void compareMatching(RegisteredOptionStorage& storage, std::string const& typed) {
-    AbbreviationParser scan(nullptr, nullptr, 0);
+    quen_test::LiteralNameMatching scan;
     std::vector<DecomposedName> names;
     scan.makeOptionNamesList(storage, names);
-    std::vector<AbbreviationParser::NameMatch> matches;
+    std::vector<quen_test::NameMatch> matches;
     scan.makeNameMatch(matches, DecomposedName(typed), names);
     DecomposedName best;
     std::string scanMessage;
     int const scanCode = scan.findBest(matches, best, scanMessage);
 
-    AbbreviationParser indexed(nullptr, nullptr, 0);
+    quen_test::IndexedNameMatching indexed;
     std::size_t candidate = kNoOption;
     std::string indexedMessage;
     int const indexedCode = indexed.findBestIndexed(storage.names(), typed, candidate, indexedMessage);
@@ -83,14 +85,16 @@ void compareMatching(RegisteredOptionStorage& storage, std::string const& typed)
     quen_fuzz::check(name == best.getName(), "same best name");
     unsigned long fast = 1;
     unsigned long slow = 2;
-    quen_fuzz::check(storage.isAdded(name, fast) == quen_test::scanForOption(storage, {name}, slow) && fast == slow,
-                     "indexed lookup finds the scan's option");
+    quen_fuzz::check(
+        quen_test::isAdded(storage, name, fast) == quen_test::scanForOption(storage, {name}, slow) && fast == slow,
+        "indexed lookup finds the scan's option");
     if (typed.find('=') != std::string::npos) {
         return;
     }
     quen_3_1::ArgumentList args(std::vector<std::string>{"--" + typed + "=v"});
     std::string message;
-    quen_fuzz::check(indexed.recognize(args, storage, message) == 0 && indexed.optionIndex() == slow,
+    quen_test::RecognizerProbe<AbbreviationParser> recognizer(nullptr, nullptr, 0);
+    quen_fuzz::check(recognizer.recognize(args, storage, message) == 0 && recognizer.optionIndex() == slow,
                      "the recognizer takes the scan's option");
 }
 

@@ -38,8 +38,7 @@ int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
         return 3;
     }
     try {
-        std::vector<std::string> args(argv + 1, argv + argc);
-        return parseVector(args, result);
+        return parseVector(std::vector<std::string>(argv + 1, argv + argc), result);
     } catch (std::exception const&) {
         return 3;
     }
@@ -52,8 +51,7 @@ int BasicParser::parseStream(char const* text, IParseResult* result) {
         return spent;
     }
     try {
-        std::vector<std::string> args = argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text));
-        return parseVector(args, result);
+        return parseVector(argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text)), result);
     } catch (std::exception const&) {
         return 3;
     }
@@ -69,15 +67,14 @@ int BasicParser::refuseWhenNumbersSpent() {
     return IArgumentParser::kNumbersExhaustedCode;
 }
 
-int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* result) {
+int BasicParser::parseVector(std::vector<std::string> args, IParseResult* result) {
     try {
         std::string error;
         ArgumentList list(std::move(args));
         int code = parse("--", list, result, error);
         if (code == 0) {
-            code = collectNonparsingArguments("--", list, asParseResult(result), error);
+            code = collectNonparsingArguments(list, asParseResult(result), error);
         }
-        args = list.takeRemaining();
         if (code != 0) {
             setLastError(error);
         }

@@ -39,15 +39,15 @@ public:
 
     // Runs recognition, then keeps what follows the terminator. Returns 0 or
     // an error code with the text recorded as the last error.
-    virtual int parseVector(std::vector<std::string>& args, IParseResult* result);
+    int parseVector(std::vector<std::string> args, IParseResult* result);
     // Lets the recognizers bid for each leading argument until the terminator.
     virtual int parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error);
 
     void setLastError(std::string const& text);
-    // Stores every argument after the terminator as a plain argument; with
-    // FlagPositionalAfterTerminator also offers it to the positional option.
-    int collectNonparsingArguments(std::string const& terminator, ArgumentList& args, ParseResult* result,
-                                   std::string& error);
+    // Stores every argument after the terminator that recognition stopped at
+    // as a plain argument; with FlagPositionalAfterTerminator also offers it
+    // to the positional option.
+    int collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error);
     // Wraps `text` into lines of at most indent + width - 1 characters, the
     // first one starting with `head`.
     static std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width);

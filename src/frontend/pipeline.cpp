@@ -2,7 +2,6 @@
 // the greatest priority consumes it; what follows the terminator is kept as
 // plain arguments.
 #include <exception>
-#include <memory>
 
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
@@ -16,19 +15,6 @@ namespace {
 
 char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 
-// The claimant with the greatest priority; the earlier one wins a tie.
-IArgumentParser* chooseClaimant(std::vector<IArgumentParser*> const& claimants) {
-    IArgumentParser* best = nullptr;
-    int bestPriority = -99999999;
-    for (IArgumentParser* claimant : claimants) {
-        if (claimant->getPriority() > bestPriority) {
-            bestPriority = claimant->getPriority();
-            best = claimant;
-        }
-    }
-    return best;
-}
-
 }  // namespace
 
 int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error) {
@@ -39,19 +25,20 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
     }
     PositionalOptionsParser positional(this, &m_garbage, m_flags);
     AbbreviationParser abbreviation(this, &m_garbage, m_flags);
-    std::vector<IArgumentParser*> const recognizers{&positional, &abbreviation};
+    IArgumentParser* const recognizers[] = {&positional, &abbreviation};
+    Recognition findings[2];
     IResultCollector* const collector = dynamic_cast<ParseResult*>(result);
-    std::vector<IArgumentParser*> claimants;
     while (!args.empty() && args[0] != terminator) {
-        claimants.clear();
-        for (IArgumentParser* recognizer : recognizers) {
-            std::string message;
-            if (recognizer->recognize(args, m_storage, message) == 0) {
-                claimants.push_back(recognizer);
+        // Every recognizer looks; the greatest priority wins, the earlier one a tie.
+        std::size_t chosen = 2;
+        for (std::size_t i = 0; i < 2; ++i) {
+            if (recognizers[i]->recognize(args, m_storage, findings[i]) &&
+                (chosen == 2 || recognizers[i]->getPriority() > recognizers[chosen]->getPriority())) {
+                chosen = i;
             }
         }
-        if (!claimants.empty()) {
-            int const code = chooseClaimant(claimants)->parse(args, collector, m_storage, error);
+        if (chosen != 2) {
+            int const code = recognizers[chosen]->parse(args, findings[chosen], collector, m_storage, error);
             if (code != 0) {
                 return code;
             }
@@ -69,16 +56,10 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
     return 0;
 }
 
-int BasicParser::collectNonparsingArguments(std::string const& terminator, ArgumentList& args, ParseResult* result,
-                                            std::string& error) {
+int BasicParser::collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error) {
     try {
-        std::vector<std::string> all = args.takeRemaining();
-        std::size_t end = 0;
-        while (end < all.size() && all[end] != terminator) {
-            ++end;
-        }
-        for (std::size_t i = end + 1; i < all.size(); ++i) {
-            std::string const& argument = all[i];
+        for (std::size_t i = 1; i < args.size(); ++i) {
+            std::string const& argument = args[i];
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 error = IArgumentParser::kNumbersExhaustedMessage;
@@ -95,8 +76,6 @@ int BasicParser::collectNonparsingArguments(std::string const& terminator, Argum
                 }
             }
         }
-        all.resize(end);
-        args = ArgumentList(std::move(all));
         return 0;
     } catch (std::exception const&) {
         return 3;
@@ -108,12 +87,13 @@ int BasicParser::collectNonparsingArguments(std::string const& terminator, Argum
 int BasicParser::offerToPositional(std::string const& argument, ParseResult* result, std::string& error) {
     PositionalOptionsParser positional(this, &m_garbage, m_flags & ~FlagNoHyphenPositional);
     ArgumentList single(std::vector<std::string>{argument});
-    int code = positional.recognize(single, m_storage, error);
-    internal::trace("collectNonparsingArguments: recognize result: ", code, ", message: ", error);
-    if (code != 0) {
+    Recognition found;
+    bool const taken = positional.recognize(single, m_storage, found);
+    internal::trace("collectNonparsingArguments: recognize result: ", taken ? 0 : 1, ", message: ", error);
+    if (!taken) {
         return 0;
     }
-    code = positional.parse(single, result, m_storage, error);
+    int const code = positional.parse(single, found, result, m_storage, error);
     internal::trace("collectNonparsingArguments: parse result: ", code, ", message: ", error);
     return code;
 }

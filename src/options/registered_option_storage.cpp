@@ -25,7 +25,6 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
     std::size_t const index = m_options.size();
     m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, description, type, m_garbage);
     OptionDescription& stored = m_options.back();
-    stored.setStatus(0);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
         m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool);
     }
@@ -88,15 +87,6 @@ int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, u
         }
     }
     return 1;
-}
-
-int RegisteredOptionStorage::isAdded(std::string const& name, unsigned long& index) const {
-    std::size_t const found = m_names.firstNamed(name);
-    if (found == NameIndex::npos) {
-        return 1;
-    }
-    index = m_names.candidate(found).option;
-    return 0;
 }
 
 }  // namespace quen_3_1

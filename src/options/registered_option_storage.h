@@ -33,8 +33,6 @@ public:
     int validateName(std::vector<std::string> const& names);
     // 0 with `index` set when any of `names` (or "no-" + a boolean's name) is taken.
     int findOption(std::vector<std::string> const& names, unsigned long& index) const;
-    // findOption for one name.
-    int isAdded(std::string const& name, unsigned long& index) const;
 
     // Every name the options answer to.
     NameIndex const& names() const { return m_names; }

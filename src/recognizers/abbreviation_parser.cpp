@@ -1,5 +1,6 @@
 #include "recognizers/abbreviation_parser.h"
 
+#include <string_view>
 #include <utility>
 
 #include "frontend/trace.h"
@@ -10,70 +11,77 @@ namespace quen_3_1 {
 
 namespace {
 
-constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
-
-// The typed name: what follows the leading hyphens, up to the first '='.
-std::string_view typedName(std::string const& argument, std::size_t hyphens) {
-    std::size_t const equals = argument.find('=');
-    std::size_t const end = equals == std::string::npos ? argument.size() : equals;
-    return std::string_view(argument).substr(hyphens, end - hyphens);
+// Booleans and options without a value never take the next argument; the
+// others do unless a value follows the '='.
+std::size_t argumentsTaken(kel_variant_type_t type, std::string const& argument, std::size_t valueStart) {
+    if (type == tarvo2::vt_empty || type == tarvo2::vt_bool) {
+        return 1;
+    }
+    return valueStart == Recognition::npos || valueStart == argument.size() ? 2 : 1;
 }
 
 }  // namespace
 
 AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
-    : IArgumentParser(handler, garbage, flags), m_optionIndex(kNoOption) {
+    : IArgumentParser(handler, garbage, flags) {
     m_name = "AbbreviationParser";
 }
 
-int AbbreviationParser::recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) {
+bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionStorage const& storage,
+                                   Recognition& found) {
     std::string const& argument = args[0];
     internal::trace(m_name, ": recognizing argument '", argument, "'");
-    m_optionIndex = kNoOption;
+    found = Recognition();
     if (argument.size() < 2 || argument[0] != '-') {
-        return 1;
+        return false;
     }
-    std::size_t const hyphens = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
-    std::string_view const typed = typedName(argument, hyphens);
-    std::size_t best = 0;
-    int const found = findBestIndexed(storage.names(), typed, best, message);
-    if (found == 2) {
-        internal::trace(m_name, ": failed to get best match for '", typed, "' in argument '", argument, "':", message);
-        return 0;
+    std::size_t const equals = argument.find('=');
+    found.nameStart = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
+    found.nameEnd = equals == std::string::npos ? argument.size() : equals;
+    found.valueStart = equals == std::string::npos ? Recognition::npos : equals + 1;
+    std::string_view const typed = std::string_view(argument).substr(found.nameStart, found.nameEnd - found.nameStart);
+    NameIndex const& index = storage.names();
+    std::vector<std::size_t> const& best = m_matcher.find(index, typed);
+    if (best.empty()) {
+        return false;
     }
-    if (found != 0) {
-        return 1;
+    if (best.size() > 1) {
+        found.tied = best;
+        if (internal::quenLogEnabled) {
+            internal::trace(m_name, ": failed to get best match for '", typed, "' in argument '", argument,
+                            "':Ambiguous option, possible options are: ", listCandidates(index, best));
+        }
+        return true;
     }
-    NameIndex::Candidate const& winner = storage.names().candidate(best);
+    NameIndex::Candidate const& winner = index.candidate(best.front());
     internal::trace(m_name, ": best match option for '", typed, "' in argument '", argument, "' is '", winner.text,
                     "'");
-    // Looking the winner's name up again (isAdded) finds this same option: a
-    // unique best match is the only candidate with its name, since an equal
-    // name would have tied with it.
-    m_optionIndex = winner.option;
-    return 0;
+    found.option = winner.option;
+    found.noForm = winner.text.compare(0, 3, "no-") == 0;
+    found.arguments = argumentsTaken(storage.at(winner.option).type(), argument, found.valueStart);
+    return true;
 }
 
-int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
-                              std::string& message) {
+int AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                              RegisteredOptionStorage const& storage, std::string& message) {
     std::string const& argument = args[0];
     internal::trace(m_name, ": parsing argument '", argument, "'");
-    if (bestCount() > 1) {
-        std::size_t const hyphens = (argument[0] == '-' ? 1U : 0U) + (argument[1] == '-' ? 1U : 0U);
-        message = "Ambiguous option '" + std::string(typedName(argument, hyphens)) + "'" + tokenPart(args) +
-                  ", could be: " + listNames(bestMatches());
+    if (!found.tied.empty()) {
+        // The message drops both leading hyphens, so "--" shows an empty name
+        // although it was matched as "-".
+        std::size_t const start = argument[1] == '-' ? 2 : 1;
+        message = "Ambiguous option '" + argument.substr(start, found.nameEnd - start) + "'" + tokenPart(args) +
+                  ", could be: " + listCandidates(storage.names(), found.tied);
         return 2;
     }
-    OptionDescription const& option = storage.at(m_optionIndex);
+    OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": detected option: '", option.primaryName(), "'");
-    std::size_t consumed = 1;
     std::string value;
-    std::size_t const equals = argument.find('=');
-    if (equals != std::string::npos) {
-        value = argument.substr(equals + 1);
+    if (found.valueStart != Recognition::npos) {
+        value = argument.substr(found.valueStart);
         internal::trace(m_name, ": value from the same argument taken: '", value, "'");
     }
-    int const code = decideValue(args, option, value, consumed, message);
+    int const code = decideValue(args, found, option, value, message);
     if (code != 0) {
         return code;
     }
@@ -83,7 +91,7 @@ int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, R
     if (stored != 0) {
         return stored;
     }
-    for (std::size_t i = 0; i < consumed; ++i) {
+    for (std::size_t i = 0; i < found.arguments; ++i) {
         internal::trace(m_name, ": removing argument: '", args[0], "'");
         args.popFront();
     }
@@ -92,8 +100,8 @@ int AbbreviationParser::parse(ArgumentList& args, IResultCollector* collector, R
 
 // No-value options refuse a value, booleans take "1"/"0" from the matched
 // name, and other kinds fall back to the next argument.
-int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const& option, std::string& value,
-                                    std::size_t& consumed, std::string& message) {
+int AbbreviationParser::decideValue(ArgumentList const& args, Recognition const& found, OptionDescription const& option,
+                                    std::string& value, std::string& message) {
     if (option.type() == tarvo2::vt_empty) {
         if (!value.empty()) {
             return fail(message, "Option '" + option.primaryName() + "'does not requires a value" + tokenPart(args));
@@ -101,21 +109,20 @@ int AbbreviationParser::decideValue(ArgumentList& args, OptionDescription const&
         return 0;
     }
     if (option.type() != tarvo2::vt_bool) {
-        return value.empty() ? valueFromNextArgument(args, option, value, consumed, message) : 0;
+        return found.arguments == 2 ? valueFromNextArgument(args, option, value, message) : 0;
     }
     if (!value.empty()) {
         return fail(message, "Option '" + option.primaryName() + "' is boolean and should be declared in form " +
                                  "'--option' or '--no-option'" + tokenPart(args));
     }
-    // The matched name decides, so a boolean whose own name starts with "no-" gives "0".
-    value = bestMatches().front().name.getName().compare(0, 3, "no-") == 0 ? "0" : "1";
+    value = found.noForm ? "0" : "1";
     return 0;
 }
 
 // A next argument that begins with '-' is refused even when it is a negative
 // number: "--num=-5" is the way to give one.
-int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescription const& option, std::string& value,
-                                              std::size_t& consumed, std::string& message) {
+int AbbreviationParser::valueFromNextArgument(ArgumentList const& args, OptionDescription const& option,
+                                              std::string& value, std::string& message) {
     internal::trace(m_name, ": no value in the same argument, looking next");
     if (args.size() == 1) {
         return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));
@@ -126,7 +133,6 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList& args, OptionDescript
                                  "', but it seems to be an option. Use '-option=value' declaration form" +
                                  " or make sure that value is not missed");
     }
-    consumed = 2;
     internal::trace(m_name, ": got value from the next argument: '", value, "'");
     if (value.empty()) {
         return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));

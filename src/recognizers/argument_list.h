@@ -19,23 +19,12 @@ public:
     std::size_t size() const { return m_items.size() - m_front; }
     // The argument `index` places after the front.
     std::string const& operator[](std::size_t index) const { return m_items[m_front + index]; }
-    void push_back(std::string item) { m_items.push_back(std::move(item)); }
     void popFront() { ++m_front; }
-    // The arguments not consumed yet, leaving the list empty.
-    std::vector<std::string> takeRemaining();
 
 private:
     std::vector<std::string> m_items;
     std::size_t m_front = 0;
 };
-
-inline std::vector<std::string> ArgumentList::takeRemaining() {
-    std::vector<std::string> rest(std::make_move_iterator(m_items.begin() + static_cast<std::ptrdiff_t>(m_front)),
-                                  std::make_move_iterator(m_items.end()));
-    m_items.clear();
-    m_front = 0;
-    return rest;
-}
 
 }  // namespace quen_3_1
 

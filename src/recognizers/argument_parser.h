@@ -8,6 +8,7 @@
 
 #include "quen_3_1/quen.h"
 #include "recognizers/argument_list.h"
+#include "recognizers/recognition.h"
 #include "results/option_data.h"
 
 namespace quen_3_1 {
@@ -18,20 +19,21 @@ class OptionDescription;
 class RegisteredOptionStorage;
 
 // A recognizer looks at the front of the argument list, says whether it takes
-// it (recognize), then consumes it (parse). One lives for one parse call.
+// it and what it found (recognize), then consumes it from what it found
+// (parse). One lives for one parse call.
 class IArgumentParser {
 public:
     IArgumentParser(EventHandler* handler, Garbage* garbage, std::int32_t flags);
     IArgumentParser(IArgumentParser const&) = delete;
     IArgumentParser& operator=(IArgumentParser const&) = delete;
 
-    // 0 when this recognizer takes args[0]; never changes `args`.
-    virtual int recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) = 0;
-    // Consumes what recognize took: 0 stored, 1 a handler vetoed a value,
+    // True when this recognizer takes args[0], with `found` filled in.
+    virtual bool recognize(ArgumentList const& args, RegisteredOptionStorage const& storage, Recognition& found) = 0;
+    // Consumes what recognize found: 0 stored, 1 a handler vetoed a value,
     // 2 any other error, kNumbersExhaustedCode when no sequence number is
     // left; on failure `message` is set and `args` unchanged.
-    virtual int parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
-                      std::string& message) = 0;
+    virtual int parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                      RegisteredOptionStorage const& storage, std::string& message) = 0;
     // " in argument: '<token>'", appended to error messages.
     virtual std::string formatTokenMessage(std::string& token);
     // The claimant with the greater priority parses.

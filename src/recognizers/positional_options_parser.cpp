@@ -5,34 +5,28 @@
 
 namespace quen_3_1 {
 
-namespace {
-
-constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-
-// Only the first positional option is ever filled; the registry keeps its index.
-std::size_t firstPositional(RegisteredOptionStorage const& storage) { return storage.firstPositional(); }
-
-}  // namespace
-
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
     : IArgumentParser(handler, garbage, flags) {
     m_name = "PositionalOptionsParser";
 }
 
-int PositionalOptionsParser::recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& /*message*/) {
+// Only the first positional option is ever filled; the registry keeps its index.
+bool PositionalOptionsParser::recognize(ArgumentList const& args, RegisteredOptionStorage const& storage,
+                                        Recognition& found) {
     std::string const& argument = args[0];
     internal::trace(m_name, ": recognizing argument '", argument, "'");
-    std::size_t const index = firstPositional(storage);
+    found = Recognition();
     if ((m_flags & FlagNoHyphenPositional) != 0 && !argument.empty() && argument[0] == '-') {
-        return 1;
+        return false;
     }
-    return index == kNone ? 1 : 0;
+    found.option = storage.firstPositional();
+    return found.option != Recognition::npos;
 }
 
-int PositionalOptionsParser::parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
-                                   std::string& message) {
+int PositionalOptionsParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                                   RegisteredOptionStorage const& storage, std::string& message) {
     internal::trace(m_name, ": parsing argument '", args[0], "'");
-    OptionDescription const& option = storage.at(firstPositional(storage));
+    OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": option is '", option.primaryName(), "'");
     for (;;) {
         std::string value = args[0];

@@ -14,9 +14,9 @@ class PositionalOptionsParser final : public IArgumentParser {
 public:
     PositionalOptionsParser(EventHandler* handler, Garbage* garbage, std::int32_t flags);
 
-    int recognize(ArgumentList& args, RegisteredOptionStorage& storage, std::string& message) override;
-    int parse(ArgumentList& args, IResultCollector* collector, RegisteredOptionStorage& storage,
-              std::string& message) override;
+    bool recognize(ArgumentList const& args, RegisteredOptionStorage const& storage, Recognition& found) override;
+    int parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+              RegisteredOptionStorage const& storage, std::string& message) override;
     int getPriority() override { return -100; }
 };
 

@@ -10,6 +10,7 @@
 #include "recognizers/argument_list.h"
 #include "support/capture.h"
 #include "support/internal_fixture.h"
+#include "support/recognizer_probe.h"
 
 using quen_3_1::AbbreviationParser;
 using quen_3_1::ArgumentList;
@@ -66,7 +67,7 @@ protected:
 
     OptionData const& stored(std::string const& name) { return result.options().at(name); }
 
-    AbbreviationParser recognizer{&parser, &garbage, 0};
+    quen_test::RecognizerProbe<AbbreviationParser> recognizer{&parser, &garbage, 0};
 };
 
 }  // namespace
@@ -156,7 +157,7 @@ TEST_F(AbbreviationParsing, AmbiguityIsTakenSoThatParseReportsIt) {
               "options are: 'verbose', 'version'\n");
     EXPECT_EQ(message, "Ambiguous option, possible options are: 'verbose', 'version'");
     EXPECT_EQ(recognizer.optionIndex(), kNoOption);
-    EXPECT_EQ(recognizer.bestMatches().size(), 2U);
+    EXPECT_EQ(recognizer.found().tied.size(), 2U);
 }
 
 TEST_F(AbbreviationParsing, NoMatchIsNotTaken) {

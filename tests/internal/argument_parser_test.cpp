@@ -40,11 +40,12 @@ class ProbeRecognizer final : public IArgumentParser {
 public:
     ProbeRecognizer(EventHandler* handler, Garbage* garbage) : IArgumentParser(handler, garbage, 0) {}
 
-    int recognize(ArgumentList& /*args*/, RegisteredOptionStorage& /*storage*/, std::string& /*message*/) override {
-        return 1;
+    bool recognize(ArgumentList const& /*args*/, RegisteredOptionStorage const& /*storage*/,
+                   quen_3_1::Recognition& /*found*/) override {
+        return false;
     }
-    int parse(ArgumentList& /*args*/, quen_3_1::IResultCollector* /*collector*/, RegisteredOptionStorage& /*storage*/,
-              std::string& /*message*/) override {
+    int parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/, quen_3_1::IResultCollector* /*collector*/,
+              RegisteredOptionStorage const& /*storage*/, std::string& /*message*/) override {
         return 2;
     }
     int getPriority() override { return 0; }
@@ -62,11 +63,12 @@ public:
     }
     ~HeavyRecognizer() override { *m_destroyed = true; }
 
-    int recognize(ArgumentList& /*args*/, RegisteredOptionStorage& /*storage*/, std::string& /*message*/) override {
-        return 0;
+    bool recognize(ArgumentList const& /*args*/, RegisteredOptionStorage const& /*storage*/,
+                   quen_3_1::Recognition& /*found*/) override {
+        return true;
     }
-    int parse(ArgumentList& /*args*/, quen_3_1::IResultCollector* /*collector*/, RegisteredOptionStorage& /*storage*/,
-              std::string& /*message*/) override {
+    int parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/, quen_3_1::IResultCollector* /*collector*/,
+              RegisteredOptionStorage const& /*storage*/, std::string& /*message*/) override {
         return 0;
     }
     int getPriority() override { return -1; }

@@ -13,11 +13,10 @@
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
 #include "options/registered_option_storage.h"
-#include "recognizers/abbreviation_parser.h"
 #include "recognizers/decomposed_name.h"
 #include "support/internal_fixture.h"
+#include "support/literal_name_matching.h"
 
-using quen_3_1::AbbreviationParser;
 using quen_3_1::BasicParser;
 using quen_3_1::CompletionModel;
 using quen_3_1::DecomposedName;
@@ -108,7 +107,7 @@ protected:
             typed = word.substr(1);
         }
         std::vector<std::string> offered;
-        AbbreviationParser recognizer(&parser, &parser.keeper(), 0);
+        quen_test::LiteralNameMatching recognizer;
         std::vector<DecomposedName> names;
         recognizer.makeOptionNamesList(storage(), names);
         for (DecomposedName const& name : names) {
@@ -117,7 +116,7 @@ protected:
             }
         }
         if (offered.empty()) {
-            std::vector<AbbreviationParser::NameMatch> matches;
+            std::vector<quen_test::NameMatch> matches;
             recognizer.makeNameMatch(matches, DecomposedName(typed), names);
             DecomposedName best;
             std::string message;
@@ -125,7 +124,7 @@ protected:
             if (found == 0) {
                 offered.push_back(form + best.getName());
             } else if (found == 2) {
-                for (AbbreviationParser::NameMatch const& match : recognizer.bestMatches()) {
+                for (quen_test::NameMatch const& match : recognizer.bestMatches()) {
                     offered.push_back(form + match.name.getName());
                 }
             }
@@ -143,7 +142,7 @@ protected:
     std::vector<std::string> typedWords() {
         std::vector<std::string> words;
         std::vector<DecomposedName> names;
-        AbbreviationParser recognizer(&parser, &parser.keeper(), 0);
+        quen_test::LiteralNameMatching recognizer;
         recognizer.makeOptionNamesList(storage(), names);
         for (DecomposedName const& name : names) {
             std::vector<std::string> typed{""};

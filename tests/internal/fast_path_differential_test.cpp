@@ -20,6 +20,8 @@
 #include "recognizers/argument_list.h"
 #include "recognizers/decomposed_name.h"
 #include "support/capture.h"
+#include "support/literal_name_matching.h"
+#include "support/recognizer_probe.h"
 #include "support/straightforward_paths.h"
 #include "values/classic_extraction.h"
 #include "values/garbage.h"
@@ -114,16 +116,16 @@ private:
 struct Outcome {
     int code = 0;
     std::string message;
-    std::vector<AbbreviationParser::NameMatch> matches;
+    std::vector<quen_test::NameMatch> matches;
     std::string best;
 };
 
 // The straightforward path: the whole candidate list, every candidate scored.
 Outcome byScan(RegisteredOptionStorage& storage, std::string const& typed) {
-    AbbreviationParser parser(nullptr, nullptr, 0);
+    quen_test::LiteralNameMatching parser;
     std::vector<DecomposedName> names;
     parser.makeOptionNamesList(storage, names);
-    std::vector<AbbreviationParser::NameMatch> matches;
+    std::vector<quen_test::NameMatch> matches;
     parser.makeNameMatch(matches, DecomposedName(typed), names);
     DecomposedName best;
     Outcome outcome;
@@ -133,7 +135,7 @@ Outcome byScan(RegisteredOptionStorage& storage, std::string const& typed) {
     return outcome;
 }
 
-Outcome byIndex(AbbreviationParser& parser, RegisteredOptionStorage& storage, std::string const& typed) {
+Outcome byIndex(quen_test::IndexedNameMatching& parser, RegisteredOptionStorage& storage, std::string const& typed) {
     Outcome outcome;
     std::size_t best = kNoOption;
     outcome.code = parser.findBestIndexed(storage.names(), typed, best, outcome.message);
@@ -190,7 +192,7 @@ TEST_F(FastPath, IndexedBestMatchEqualsScoringEveryCandidate) {
     for (int round = 0; round < 120; ++round) {
         RegisteredOptionStorage storage;
         std::vector<std::string> const known = corpus.populate(storage);
-        AbbreviationParser parser(nullptr, nullptr, 0);
+        quen_test::IndexedNameMatching parser;
         for (int i = 0; i < 80; ++i) {
             std::string const typed = corpus.typed(known);
             expectSame(byIndex(parser, storage, typed), byScan(storage, typed), typed);
@@ -209,7 +211,7 @@ TEST_F(FastPath, RecognizerAgreesWithScanOnEveryArgumentForm) {
     for (int round = 0; round < 60; ++round) {
         RegisteredOptionStorage storage;
         std::vector<std::string> const known = corpus.populate(storage);
-        AbbreviationParser parser(nullptr, nullptr, 0);
+        quen_test::RecognizerProbe<AbbreviationParser> parser(nullptr, nullptr, 0);
         for (int i = 0; i < 60; ++i) {
             std::string const typed = corpus.typed(known);
             for (std::string const& argument :
@@ -248,7 +250,8 @@ TEST_F(FastPath, IndexedNameLookupEqualsWalkingEveryOption) {
             EXPECT_EQ(fastIndex, scanIndex);
             unsigned long oneFast = 12345;
             unsigned long oneScan = 12345;
-            EXPECT_EQ(storage.isAdded(names[0], oneFast), quen_test::scanForOption(storage, {names[0]}, oneScan));
+            EXPECT_EQ(quen_test::isAdded(storage, names[0], oneFast),
+                      quen_test::scanForOption(storage, {names[0]}, oneScan));
             EXPECT_EQ(oneFast, oneScan);
         }
     }
@@ -274,14 +277,14 @@ TEST_F(FastPath, SynonymOfARegisteredOptionReachesTheIndex) {
     IOption* const verbose = storage.option("verbose", "d", tarvo2::vt_bool, "g");
     storage.option("version", "d", tarvo2::vt_int, "g");
     verbose->synonym("loud");
-    AbbreviationParser parser(nullptr, nullptr, 0);
+    quen_test::IndexedNameMatching parser;
     std::size_t best = kNoOption;
     std::string message;
     ASSERT_EQ(parser.findBestIndexed(storage.names(), "no-lo", best, message), 0);
     EXPECT_EQ(storage.names().candidate(best).text, "no-loud");
     EXPECT_EQ(storage.names().candidate(best).option, 0u);
     unsigned long index = 9;
-    EXPECT_EQ(storage.isAdded("no-loud", index), 0);
+    EXPECT_EQ(quen_test::isAdded(storage, "no-loud", index), 0);
     EXPECT_EQ(index, 0u);
 }
 
@@ -292,7 +295,7 @@ TEST_F(FastPath, CopyOfAStoredOptionDoesNotTouchTheIndex) {
     copy.synonym("beta");
     copy.positional();
     unsigned long index = 9;
-    EXPECT_EQ(storage.isAdded("beta", index), 1);
+    EXPECT_EQ(quen_test::isAdded(storage, "beta", index), 1);
     EXPECT_EQ(storage.firstPositional(), kNoOption);
     EXPECT_EQ(storage.names().size(), 1u);
 }

@@ -6,17 +6,16 @@
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
 #include "options/registered_option_storage.h"
-#include "recognizers/abbreviation_parser.h"
 #include "recognizers/decomposed_name.h"
 #include "support/internal_fixture.h"
+#include "support/literal_name_matching.h"
 #include "values/garbage.h"
 
-using quen_3_1::AbbreviationParser;
 using quen_3_1::BasicParser;
 using quen_3_1::DecomposedName;
 using quen_3_1::Garbage;
 using quen_3_1::RegisteredOptionStorage;
-using NameMatch = quen_3_1::AbbreviationParser::NameMatch;
+using NameMatch = quen_test::NameMatch;
 
 namespace {
 
@@ -38,7 +37,7 @@ std::vector<std::string> namesOf(std::vector<NameMatch> const& matches) {
 
 class NameMatching : public quen_test::InternalTest {
 protected:
-    NameMatching() : parser(0), recognizer(&parser, &garbage, 0) { storage.setGarbage(&garbage); }
+    NameMatching() : parser(0) { storage.setGarbage(&garbage); }
 
     void add(char const* names, quen_3_1::kel_variant_type_t type) { storage.option(names, "help", type, "general"); }
 
@@ -71,7 +70,7 @@ protected:
     BasicParser parser;
     Garbage garbage;
     RegisteredOptionStorage storage;
-    AbbreviationParser recognizer;
+    quen_test::LiteralNameMatching recognizer;
     DecomposedName best;
     std::string message;
 };

@@ -22,11 +22,11 @@ namespace {
 class PositionalOptions : public quen_test::RecognizerTest {
 protected:
     int recognize(PositionalOptionsParser& recognizer, ArgumentList& args) {
-        return recognizer.recognize(args, storage, message);
+        return recognizer.recognize(args, storage, found) ? 0 : 1;
     }
 
     int parse(PositionalOptionsParser& recognizer, ArgumentList& args) {
-        return recognizer.parse(args, &result, storage, message);
+        return recognizer.parse(args, found, &result, storage, message);
     }
 
     // What the pipeline does with an argument this recognizer takes.
@@ -44,6 +44,9 @@ protected:
         ArgumentList args(std::move(arguments));
         return traceOf([&] { EXPECT_EQ(recognizeAndParse(recognizer, args), code); });
     }
+
+    // What recognize found, kept for parse as the pipeline keeps it.
+    quen_3_1::Recognition found;
 };
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "options/registered_option_storage.h"
-#include "recognizers/abbreviation_parser.h"
 
 namespace quen_test {
 
@@ -44,20 +43,6 @@ inline int scanForOption(quen_3_1::RegisteredOptionStorage const& storage, std::
         }
     }
     return 1;
-}
-
-// Same records, in the same order.
-inline bool sameMatches(std::vector<quen_3_1::AbbreviationParser::NameMatch> const& a,
-                        std::vector<quen_3_1::AbbreviationParser::NameMatch> const& b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (a[i].sameLength != b[i].sameLength || a[i].score != b[i].score || a[i].name.parts != b[i].name.parts) {
-            return false;
-        }
-    }
-    return true;
 }
 
 // One value of type T read by a fresh string stream in its default state (or
