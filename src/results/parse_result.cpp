@@ -38,41 +38,127 @@ void appendValues(std::vector<ValueEntry>& to, std::vector<ValueEntry> const& fr
 
 int ParseResult::store(OptionDescription const& option, OptionData const& data) {
     std::vector<std::string> const& names = option.names();
-    std::string const& primary = names.at(0);
-    auto const first = m_options.find(primary);
-    if (first == m_options.end()) {
-        for (std::string const& name : names) {
-            auto const placed = m_options.try_emplace(name, data);
-            if (!placed.second) {
-                placed.first->second = data;
-            }
-        }
-        return 0;
-    }
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        OptionData& entry = i == 0 ? first->second : m_options[names[i]];
-        entry.m_positions.insert(entry.m_positions.end(), data.m_positions.begin(), data.m_positions.end());
-        appendValues(entry.m_values, data.m_values);
+    if (m_names.find(names.at(0)) == m_names.end()) {
+        replaceUnderEveryName(names, data);
+    } else {
+        appendUnderEveryName(names, data);
     }
     return 0;
 }
 
+void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data) {
+    std::size_t const id = newRecord();
+    m_records[id].positions = data.m_positions;
+    m_records[id].values = data.m_values;
+    for (std::string const& name : names) {
+        NameEntry& entry = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()}).first->second;
+        point(entry, id);
+        entry.defaultEntry = data.m_default;
+    }
+}
+
+// A name appends once per time the declaration lists it. Names that share a
+// record but would not append alike (listed a different number of times, or
+// the record also reached by a name outside this option) each get a copy of
+// it first; a name without a record gets an empty one.
+void ParseResult::appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data) {
+    std::vector<NameEntry*> listed;
+    listed.reserve(names.size());
+    for (std::string const& name : names) {
+        listed.push_back(&m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()}).first->second);
+    }
+    std::sort(listed.begin(), listed.end());
+    // Each distinct name with the number of times it is listed, by record.
+    std::vector<std::pair<NameEntry*, std::size_t>> counted;
+    for (std::size_t i = 0; i < listed.size();) {
+        std::size_t j = i;
+        while (j < listed.size() && listed[j] == listed[i]) {
+            ++j;
+        }
+        counted.emplace_back(listed[i], j - i);
+        i = j;
+    }
+    auto const byRecord = [](std::pair<NameEntry*, std::size_t> const& a, std::pair<NameEntry*, std::size_t> const& b) {
+        return a.first->record < b.first->record;
+    };
+    std::sort(counted.begin(), counted.end(), byRecord);
+    for (std::size_t i = 0; i < counted.size();) {
+        std::size_t const record = counted[i].first->record;
+        std::size_t j = i;
+        bool alike = record != kNoRecord;
+        while (j < counted.size() && counted[j].first->record == record) {
+            alike = alike && counted[j].second == counted[i].second;
+            ++j;
+        }
+        if (alike && j - i == m_records[record].names) {
+            appendTimes(m_records[record], data, counted[i].second);
+        } else {
+            for (std::size_t k = i; k < j; ++k) {
+                std::size_t const own = newRecord();
+                if (record != kNoRecord) {
+                    m_records[own].positions = m_records[record].positions;
+                    m_records[own].values = m_records[record].values;
+                }
+                point(*counted[k].first, own);
+                appendTimes(m_records[own], data, counted[k].second);
+            }
+        }
+        i = j;
+    }
+}
+
+void ParseResult::appendTimes(Record& record, OptionData const& data, std::size_t times) {
+    for (std::size_t i = 0; i < times; ++i) {
+        record.positions.insert(record.positions.end(), data.m_positions.begin(), data.m_positions.end());
+        appendValues(record.values, data.m_values);
+    }
+}
+
+std::size_t ParseResult::newRecord() {
+    m_records.emplace_back();
+    return m_records.size() - 1;
+}
+
+// A record no name reaches any more gives its memory back.
+void ParseResult::point(NameEntry& entry, std::size_t record) {
+    if (entry.record == record) {
+        return;
+    }
+    if (entry.record != kNoRecord) {
+        Record& left = m_records[entry.record];
+        if (--left.names == 0) {
+            left = Record();
+        }
+    }
+    entry.record = record;
+    ++m_records[record].names;
+}
+
+// Names first seen here share one empty record, so that the option's first
+// store appends to one record.
 int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& message) {
     for (std::size_t i = 0; i < storage.size(); ++i) {
         OptionDescription const& option = storage.at(i);
         if (option.type() == tarvo2::vt_empty || !option.hasDefault()) {
             continue;
         }
+        std::size_t shared = kNoRecord;
         for (std::string const& name : option.names()) {
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 message = IArgumentParser::kNumbersExhaustedMessage;
                 return IArgumentParser::kNumbersExhaustedCode;
             }
-            ValueEntry& entry = m_options[name].m_default;
-            entry.first.first = option.toString(option.garbage(), option.getDefault());
-            entry.first.second = option.getDefault();
-            entry.second = number;
+            auto const placed = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()});
+            NameEntry& entry = placed.first->second;
+            if (placed.second) {
+                shared = shared == kNoRecord ? newRecord() : shared;
+                point(entry, shared);
+            }
+            ValueEntry& kept = entry.defaultEntry;
+            kept.first.first = option.toString(option.garbage(), option.getDefault());
+            kept.first.second = option.getDefault();
+            kept.second = number;
         }
     }
     return 0;

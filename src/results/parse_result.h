@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -18,8 +19,9 @@ namespace quen_3_1 {
 
 class RegisteredOptionStorage;
 
-// The result of one or more parses: option data keyed by every name of every
-// stored option, plain arguments, and the cursors of the current query.
+// The result of one or more parses: one record of occurrences and values per
+// stored option, reached by every one of its names, each name with its own
+// default; plain arguments; and the cursors of the current query.
 class ParseResult final : public IParseResult, public IResultCollector {
 public:
     ParseResult();
@@ -35,8 +37,9 @@ public:
     int getNextArgument(char const** text) override;
     ~ParseResult() override = default;
 
-    // The first store of an option replaces its data under every name; later
-    // stores append. Returns 0.
+    // The first store of an option (its first name unknown) replaces the data
+    // under every name; later stores append under every name, once per time
+    // the name is listed. Returns 0.
     int store(OptionDescription const& option, OptionData const& data) override;
     // Sets the default entry of every option that has one, one sequence number
     // per name. Returns 0, or the code and message of IArgumentParser for
@@ -51,13 +54,39 @@ public:
     int getFirstArgument(std::string& text);
     int getNextArgument(std::string& text);
 
-    std::unordered_map<std::string, OptionData, TextHash> const& options() const { return m_options; }
+    // The occurrences and values of one option, shared by the names that
+    // have seen the same stores.
+    struct Record {
+        std::vector<std::int32_t> positions;  // occurrence numbers, in store order
+        std::vector<ValueEntry> values;       // values of all occurrences, in store order
+        std::size_t names = 0;                // names that reach this record
+    };
+    // What one name reaches: its option's record and its own default.
+    struct NameEntry {
+        std::size_t record;
+        ValueEntry defaultEntry;  // applied default; empty text when none
+    };
+    // Nothing depends on the order of the names, so a hash map serves; its
+    // elements stay in place when it grows, which m_current relies on.
+    using NameMap = std::unordered_map<std::string, NameEntry, TextHash>;
+
+    NameMap const& names() const { return m_names; }
+    Record const& record(std::size_t id) const { return m_records[id]; }
     std::vector<std::pair<std::string, std::int32_t>> const& arguments() const { return m_arguments; }
 
 private:
-    // Nothing depends on the order of the names, so a hash map serves; its
-    // elements stay in place when it grows, which m_current relies on.
-    using OptionMap = std::unordered_map<std::string, OptionData, TextHash>;
+    static constexpr std::size_t kNoRecord = static_cast<std::size_t>(-1);
+
+    void replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
+    void appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
+    static void appendTimes(Record& record, OptionData const& data, std::size_t times);
+    std::size_t newRecord();
+    void point(NameEntry& entry, std::size_t record);
+    Record const& currentRecord() const { return m_records[m_current->record]; }
+    // The current name has a default and its option no occurrence.
+    bool onlyDefault() const {
+        return currentRecord().positions.empty() && !m_current->defaultEntry.first.first.empty();
+    }
 
     bool hasCurrent() const { return m_current != nullptr; }
     template <class Query>
@@ -67,12 +96,14 @@ private:
     int nextValue(char const** text, tarvo2::variant_t& value, int& number);
     int nextOccurrence(int& number);
 
-    OptionMap m_options;
+    NameMap m_names;
+    // Records never move; one left without names is emptied.
+    std::deque<Record> m_records;
     std::size_t m_valueCursor;
     std::size_t m_positionCursor;
     std::int32_t m_from;
     std::int32_t m_to;
-    OptionData* m_current;  // null when the last lookup failed
+    NameEntry* m_current;  // null when the last lookup failed
     Garbage m_garbage;
     std::vector<std::pair<std::string, std::int32_t>> m_arguments;
     std::size_t m_argumentCursor;

@@ -21,10 +21,6 @@ void makeNotFound(Value& value, std::int32_t status) {
     }
 }
 
-bool hasDefault(OptionData const& data) { return !data.m_default.first.first.empty(); }
-
-bool onlyDefault(OptionData const& data) { return data.m_positions.empty() && hasDefault(data); }
-
 }  // namespace
 
 int ParseResult::get(std::string const& name, char const** text, tarvo2::variant_t& value, int from, int to,
@@ -32,18 +28,17 @@ int ParseResult::get(std::string const& name, char const** text, tarvo2::variant
     try {
         m_from = from;
         m_to = to;
-        auto const found = m_options.find(name);
-        m_current = found == m_options.end() ? nullptr : &found->second;
+        auto const found = m_names.find(name);
+        m_current = found == m_names.end() ? nullptr : &found->second;
         if (!hasCurrent()) {
             return 1;
         }
         m_valueCursor = 0;
         m_positionCursor = 0;
-        OptionData const& data = *m_current;
-        if (onlyDefault(data)) {
+        if (onlyDefault()) {
             return readDefault(text, value, number);
         }
-        std::vector<std::int32_t> const& positions = data.m_positions;
+        std::vector<std::int32_t> const& positions = currentRecord().positions;
         while (m_positionCursor < positions.size() &&
                !(from <= positions[m_positionCursor] && positions[m_positionCursor] < to)) {
             ++m_positionCursor;
@@ -66,7 +61,7 @@ int ParseResult::next(std::string const& /*name*/, char const** text, tarvo2::va
 }
 
 int ParseResult::readDefault(char const** text, tarvo2::variant_t& value, int& number) {
-    ValueEntry const& entry = m_current->m_default;
+    ValueEntry const& entry = m_current->defaultEntry;
     if (text != nullptr) {
         *text = m_garbage.keep(entry.first.first);
     }
@@ -79,8 +74,7 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
     if (!hasCurrent()) {
         return 1;
     }
-    OptionData const& data = *m_current;
-    if (onlyDefault(data)) {
+    if (onlyDefault()) {
         // present() arms a single delivery of the default by setting both bounds to the maximum.
         if (m_from != kNoNumber || m_to != kNoNumber) {
             return 1;
@@ -90,7 +84,7 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
         m_to = kNoNumber;
         return 0;
     }
-    if (!data.m_values.empty()) {
+    if (!currentRecord().values.empty()) {
         return nextValue(text, value, number);
     }
     return nextOccurrence(number);
@@ -98,7 +92,7 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
 
 // The upper bound is included for values, unlike for occurrences.
 int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& number) {
-    std::vector<ValueEntry> const& values = m_current->m_values;
+    std::vector<ValueEntry> const& values = currentRecord().values;
     while (m_valueCursor < values.size() && values[m_valueCursor].second < m_from) {
         ++m_valueCursor;
     }
@@ -116,7 +110,7 @@ int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& num
 
 // Options without values yield their occurrence numbers, past the range too.
 int ParseResult::nextOccurrence(int& number) {
-    std::vector<std::int32_t> const& positions = m_current->m_positions;
+    std::vector<std::int32_t> const& positions = currentRecord().positions;
     if (m_positionCursor >= positions.size()) {
         return 1;
     }
@@ -129,7 +123,7 @@ bool ParseResult::present(char const* name, int from, int to) {
     tarvo2::variant_t scratchValue;
     int scratchNumber = 0;
     int const code = get(key, nullptr, scratchValue, from, to, scratchNumber);
-    if (code == 0 && onlyDefault(*m_current)) {
+    if (code == 0 && onlyDefault()) {
         m_from = kNoNumber;
         m_to = kNoNumber;
     }
@@ -179,7 +173,7 @@ int ParseResult::nextPosition() {
     if (!hasCurrent()) {
         return kNoNumber;
     }
-    std::vector<std::int32_t> const& positions = m_current->m_positions;
+    std::vector<std::int32_t> const& positions = currentRecord().positions;
     if (m_positionCursor >= positions.size()) {
         return kNoNumber;
     }

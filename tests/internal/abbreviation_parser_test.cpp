@@ -65,7 +65,7 @@ protected:
         return traceOf([&] { EXPECT_EQ(recognizeAndParse(args), code); });
     }
 
-    OptionData const& stored(std::string const& name) { return result.options().at(name); }
+    OptionData stored(std::string const& name) { return quen_test::storedOptions(result).at(name); }
 
     quen_test::RecognizerProbe<AbbreviationParser> recognizer{&parser, &garbage, 0};
 };
@@ -221,7 +221,7 @@ TEST_F(AbbreviationParsing, NoFormStoresZero) {
     OptionData const& data = stored("verbose");
     EXPECT_EQ(textsOf(data), (std::vector<std::string>{"0", "0"}));
     EXPECT_FALSE(data.m_values[0].first.second.as<bool>());
-    EXPECT_EQ(result.options().count("no-verbose"), 0U);
+    EXPECT_EQ(quen_test::storedOptions(result).count("no-verbose"), 0U);
     EXPECT_EQ(recorder.options, (std::vector<std::string>{"verbose", "verbose"}));
 }
 
@@ -233,7 +233,7 @@ TEST_F(AbbreviationParsing, BooleanRefusesValueAfterEquals) {
               "Option 'verbose' is boolean and should be declared in form '--option' or '--no-option' in argument: "
               "'--verbose=1'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--verbose=1"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
     EXPECT_TRUE(recorder.options.empty());
 }
 
@@ -317,7 +317,7 @@ TEST_F(AbbreviationParsing, NextArgumentStartingWithHyphenIsRefused) {
               "Option 'levelreceived value from the next argument: '-3', but it seems to be an option. Use "
               "'-option=value' declaration form or make sure that value is not missed");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--level", "-3"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
     EXPECT_TRUE(recorder.options.empty());
 }
 
@@ -327,7 +327,7 @@ TEST_F(AbbreviationParsing, MissingValueAtTheEnd) {
     EXPECT_EQ(recognizeAndParse(args), 2);
     EXPECT_EQ(message, "Option 'level' requires a value in argument: '--level'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--level"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 TEST_F(AbbreviationParsing, NothingAfterEqualsLooksAtTheNextArgument) {
@@ -344,7 +344,7 @@ TEST_F(AbbreviationParsing, EmptyNextArgumentIsAMissingValue) {
     EXPECT_EQ(recognizeAndParse(args), 2);
     EXPECT_EQ(message, "Option 'level' requires a value in argument: '--level'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--level", ""}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 TEST_F(AbbreviationParsing, InvalidValueFailsValidation) {
@@ -355,7 +355,7 @@ TEST_F(AbbreviationParsing, InvalidValueFailsValidation) {
               "Value validation problem in argument '--lev=abc': Option 'level' can not parse 'abc' value, requires "
               "a type 'integer' here.");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--lev=abc"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
     // The option was announced before its value was checked.
     EXPECT_EQ(recorder.options, (std::vector<std::string>{"level"}));
 }
@@ -398,7 +398,7 @@ TEST_F(AbbreviationParsing, NoValueOptionRefusesValue) {
     EXPECT_EQ(recognizeAndParse(args), 2);
     EXPECT_EQ(message, "Option 'flag'does not requires a value in argument: '--flag=x'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--flag=x"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 TEST_F(AbbreviationParsing, NoValueOptionWithNothingAfterEquals) {
@@ -419,7 +419,7 @@ TEST_F(AbbreviationParsing, AmbiguousAbbreviationFailsInParse) {
     EXPECT_EQ(parse(args), 2);
     EXPECT_EQ(message, "Ambiguous option 've' in argument: '--ve', could be: 'verbose', 'version'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"--ve"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
     EXPECT_TRUE(recorder.options.empty());
 }
 

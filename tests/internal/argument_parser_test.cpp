@@ -189,8 +189,8 @@ TEST_F(ArgumentParserTest, EmptyValueStoresOneOccurrenceWithoutValues) {
     EXPECT_EQ(data.m_default.first.second.m_type, tarvo2::vt_empty);
     EXPECT_EQ(data.m_default.second, 0);
     EXPECT_TRUE(m_watcher.events.empty());
-    ASSERT_EQ(m_result->options().count("quiet"), 1u);
-    EXPECT_EQ(m_result->options().at("quiet").m_positions, std::vector<std::int32_t>({before}));
+    ASSERT_EQ(quen_test::storedOptions(*m_result).count("quiet"), 1u);
+    EXPECT_EQ(quen_test::storedOptions(*m_result).at("quiet").m_positions, std::vector<std::int32_t>({before}));
 }
 
 TEST_F(ArgumentParserTest, TokenizerGivesOneValuePerPieceInOneStore) {
@@ -221,7 +221,7 @@ TEST_F(ArgumentParserTest, TokenizerGivesOneValuePerPieceInOneStore) {
         EXPECT_EQ(m_watcher.events[i].value, data.m_values[i].first.second);
     }
 
-    OptionData const& kept = m_result->options().at("n");
+    OptionData const& kept = quen_test::storedOptions(*m_result).at("n");
     EXPECT_EQ(kept.m_positions, data.m_positions);
     EXPECT_EQ(textsOf(kept.m_values), std::vector<std::string>({"1", "2"}));
 }
@@ -291,7 +291,7 @@ TEST_F(ArgumentParserTest, OccurrenceNumberPrecedesConsecutiveValueNumbers) {
     ASSERT_EQ(second.m_values.size(), 1u);
     EXPECT_LT(second.m_positions[0], second.m_values[0].second);
     // The second occurrence is appended in the result.
-    OptionData const& kept = m_result->options().at("n");
+    OptionData const& kept = quen_test::storedOptions(*m_result).at("n");
     EXPECT_EQ(kept.m_positions, std::vector<std::int32_t>({first.m_positions[0], second.m_positions[0]}));
     EXPECT_EQ(textsOf(kept.m_values), std::vector<std::string>({"4", "5", "6", "7"}));
 }
@@ -316,7 +316,7 @@ TEST_F(ArgumentParserTest, ValidationFailureStoresNothing) {
               "Value validation problem in argument '--level=x': Option 'level' can not parse 'x' value, requires a "
               "type 'integer' here.");
     EXPECT_TRUE(m_collector->stored.empty());
-    EXPECT_TRUE(m_result->options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(*m_result).empty());
     EXPECT_TRUE(m_watcher.events.empty());
     // The occurrence number stays taken.
     EXPECT_EQ(IArgumentParser::m_idx, before + 1);
@@ -330,7 +330,7 @@ TEST_F(ArgumentParserTest, ValidationFailureOfALaterPieceKeepsEarlierEvents) {
               "Value validation problem in argument '--level=1,x,3': Option 'level' can not parse 'x' value, "
               "requires a type 'integer' here.");
     EXPECT_TRUE(m_collector->stored.empty());
-    EXPECT_TRUE(m_result->options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(*m_result).empty());
     ASSERT_EQ(m_watcher.events.size(), 1u);
     EXPECT_EQ(m_watcher.events[0].text, "1");
     EXPECT_EQ(IArgumentParser::m_idx, before + 2);
@@ -353,7 +353,7 @@ TEST_F(ArgumentParserTest, HandlerVetoOfTheSecondPieceStoresNothing) {
     EXPECT_EQ(run("1,2,3", option, "--n=1,2,3"), 1);
     EXPECT_EQ(m_message, "Value '1,2,3' is not valid for option 'n' in argument '--n=1,2,3'");
     EXPECT_TRUE(m_collector->stored.empty());
-    EXPECT_TRUE(m_result->options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(*m_result).empty());
     ASSERT_EQ(m_watcher.events.size(), 2u);
     EXPECT_EQ(m_watcher.events[0].text, "1");
     EXPECT_EQ(m_watcher.events[0].index, before + 1);

@@ -122,7 +122,7 @@ TEST_F(BasicParserTest, CreateResultGivesAnEmptyResult) {
     ASSERT_NE(result, nullptr);
     ParseResult* const store = dynamic_cast<ParseResult*>(result);
     ASSERT_NE(store, nullptr);
-    EXPECT_TRUE(store->options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(*store).empty());
     EXPECT_TRUE(store->arguments().empty());
     char const* text = nullptr;
     EXPECT_EQ(result->getFirstArgument(&text), 1);
@@ -149,9 +149,9 @@ TEST_F(BasicParserTest, TwoResultsAreIndependent) {
     OptionDescription const option({"alpha"}, "g", "", "An option", tarvo2::vt_empty, nullptr);
     firstStore->store(option, occurrence(7));
     firstStore->appendArgument("plain", 8);
-    EXPECT_EQ(firstStore->options().size(), 1u);
+    EXPECT_EQ(quen_test::storedOptions(*firstStore).size(), 1u);
     EXPECT_EQ(firstStore->arguments().size(), 1u);
-    EXPECT_TRUE(secondStore->options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(*secondStore).empty());
     EXPECT_TRUE(secondStore->arguments().empty());
 
     first->destroy();

@@ -72,8 +72,8 @@ protected:
         m_storage.setGarbage(&m_garbage);
     }
 
-    OptionData const& at(std::string const& name) const { return m_result.options().at(name); }
-    bool has(std::string const& name) const { return m_result.options().count(name) != 0; }
+    OptionData at(std::string const& name) const { return quen_test::storedOptions(m_result).at(name); }
+    bool has(std::string const& name) const { return quen_test::storedOptions(m_result).count(name) != 0; }
 
     Garbage m_garbage;
     RegisteredOptionStorage m_storage;
@@ -83,7 +83,7 @@ protected:
 TEST_F(ParseResultStoreTest, StoreReturnsZeroAndKeysEveryName) {
     OptionDescription const option({"alpha", "al", "a"}, "g", "", "An option", tarvo2::vt_int, &m_garbage);
     EXPECT_EQ(m_result.store(option, occurrence(10, {entry("5", tarvo2::variant_t(5), 11)})), 0);
-    ASSERT_EQ(m_result.options().size(), 3u);
+    ASSERT_EQ(quen_test::storedOptions(m_result).size(), 3u);
     for (char const* name : {"alpha", "al", "a"}) {
         SCOPED_TRACE(name);
         ASSERT_TRUE(has(name));
@@ -145,7 +145,7 @@ TEST_F(ParseResultStoreTest, LaterStoresAppendInStoreOrder) {
 TEST_F(ParseResultStoreTest, StoreOfAnOptionWithoutNamesThrowsOutOfRange) {
     OptionDescription const nameless;
     EXPECT_THROW(m_result.store(nameless, occurrence(1)), std::out_of_range);
-    EXPECT_TRUE(m_result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(m_result).empty());
 }
 
 TEST_F(ParseResultStoreTest, ApplyDefaultNumbersEveryNameOnce) {
@@ -157,7 +157,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultNumbersEveryNameOnce) {
     EXPECT_EQ(message, "untouched");
     EXPECT_EQ(IArgumentParser::m_idx, before + 3);
 
-    ASSERT_EQ(m_result.options().size(), 3u);
+    ASSERT_EQ(quen_test::storedOptions(m_result).size(), 3u);
     EXPECT_EQ(at("level").m_default.second, before);
     EXPECT_EQ(at("l").m_default.second, before + 1);
     EXPECT_EQ(at("name").m_default.second, before + 2);
@@ -215,7 +215,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultFindsNoNameOnANamelessOption) {
     EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
     EXPECT_EQ(message, "untouched");
     EXPECT_EQ(IArgumentParser::m_idx, before);
-    EXPECT_TRUE(m_result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(m_result).empty());
     EXPECT_THROW(m_result.store(m_storage.at(0), occurrence(1)), std::out_of_range);
 }
 
@@ -287,7 +287,7 @@ TEST_F(ParseResultStoreTest, PlainArgumentsKeepTheirOrderAndNumbers) {
     EXPECT_EQ(std::string(text), "");
     EXPECT_EQ(m_result.getNextArgument(&text), 1);
     // Plain arguments are not options.
-    EXPECT_TRUE(m_result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(m_result).empty());
 }
 
 TEST_F(ParseResultStoreTest, SequenceCounterOnlyGrows) {
@@ -347,14 +347,34 @@ TEST_F(ParseResultStoreTest, OptionDataCopiesDeeply) {
     EXPECT_EQ(copy.m_default.second, 3);
 }
 
-TEST_F(ParseResultStoreTest, EachNameHoldsItsOwnCopy) {
+TEST_F(ParseResultStoreTest, EveryNameReachesTheOneRecordOfItsOption) {
     OptionDescription const option({"alpha", "a"}, "g", "", "An option", tarvo2::vt_str, &m_garbage);
     m_result.store(option, occurrence(1, {entry("v", tarvo2::variant_t("v"), 2)}));
-    char const* const underAlpha = at("alpha").m_values[0].first.second.as<char const*>();
-    char const* const underA = at("a").m_values[0].first.second.as<char const*>();
-    EXPECT_NE(underAlpha, underA);
-    EXPECT_STREQ(underAlpha, "v");
-    EXPECT_STREQ(underA, "v");
+    m_result.store(option, occurrence(3, {entry("w", tarvo2::variant_t("w"), 4)}));
+    std::size_t const record = m_result.names().at("alpha").record;
+    EXPECT_EQ(m_result.names().at("a").record, record);
+    EXPECT_EQ(m_result.record(record).names, 2u);
+    EXPECT_EQ(textsOf(m_result.record(record).values), std::vector<std::string>({"v", "w"}));
+}
+
+TEST_F(ParseResultStoreTest, NameListedTwiceGetsARecordOfItsOwn) {
+    OptionDescription const option({"alpha", "a", "alpha"}, "g", "", "An option", tarvo2::vt_str, &m_garbage);
+    m_result.store(option, occurrence(1, {entry("v", tarvo2::variant_t("v"), 2)}));
+    m_result.store(option, occurrence(3, {entry("w", tarvo2::variant_t("w"), 4)}));
+    EXPECT_NE(m_result.names().at("alpha").record, m_result.names().at("a").record);
+    EXPECT_EQ(textsOf(at("alpha").m_values), std::vector<std::string>({"v", "w", "w"}));
+    EXPECT_EQ(textsOf(at("a").m_values), std::vector<std::string>({"v", "w"}));
+}
+
+TEST_F(ParseResultStoreTest, SynonymOfAnotherOptionFollowsTheLastFirstStore) {
+    OptionDescription const first({"x", "x2"}, "g", "", "First", tarvo2::vt_str, &m_garbage);
+    OptionDescription const second({"y", "x"}, "g", "", "Second", tarvo2::vt_str, &m_garbage);
+    m_result.store(first, occurrence(1, {entry("a", tarvo2::variant_t("a"), 2)}));
+    m_result.store(second, occurrence(3, {entry("b", tarvo2::variant_t("b"), 4)}));
+    m_result.store(first, occurrence(5, {entry("c", tarvo2::variant_t("c"), 6)}));
+    EXPECT_EQ(textsOf(at("x").m_values), std::vector<std::string>({"b", "c"}));
+    EXPECT_EQ(textsOf(at("x2").m_values), std::vector<std::string>({"a", "c"}));
+    EXPECT_EQ(textsOf(at("y").m_values), std::vector<std::string>({"b"}));
 }
 
 }  // namespace

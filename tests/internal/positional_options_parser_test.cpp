@@ -83,7 +83,7 @@ TEST_F(PositionalOptions, RecognizeTakesWithoutConsuming) {
     EXPECT_EQ(recognize(recognizer, args), 0);
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"a", "b"}));
     EXPECT_EQ(message, "untouched");
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 TEST_F(PositionalOptions, EachPlainArgumentIsItsOwnOccurrence) {
@@ -93,14 +93,14 @@ TEST_F(PositionalOptions, EachPlainArgumentIsItsOwnOccurrence) {
 
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"b"}));
-    ASSERT_EQ(result.options().count("file"), 1U);
-    EXPECT_EQ(result.options().at("file").m_positions.size(), 1U);
-    EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"a"}));
+    ASSERT_EQ(quen_test::storedOptions(result).count("file"), 1U);
+    EXPECT_EQ(quen_test::storedOptions(result).at("file").m_positions.size(), 1U);
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("file")), (std::vector<std::string>{"a"}));
 
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
 
-    OptionData const& data = result.options().at("file");
+    OptionData const& data = quen_test::storedOptions(result).at("file");
     ASSERT_EQ(data.m_positions.size(), 2U);
     ASSERT_EQ(data.m_values.size(), 2U);
     EXPECT_EQ(textsOf(data), (std::vector<std::string>{"a", "b"}));
@@ -120,7 +120,7 @@ TEST_F(PositionalOptions, HyphenArgumentIsTakenWithoutNoHyphenFlag) {
     ArgumentList args(std::vector<std::string>{"--zzz"});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
-    EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"--zzz"}));
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("file")), (std::vector<std::string>{"--zzz"}));
 }
 
 TEST_F(PositionalOptions, NoHyphenFlagRefusesArgumentsStartingWithHyphen) {
@@ -140,7 +140,7 @@ TEST_F(PositionalOptions, EmptyArgumentIsOccurrenceWithoutValue) {
     ArgumentList args(std::vector<std::string>{""});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
-    OptionData const& data = result.options().at("file");
+    OptionData const& data = quen_test::storedOptions(result).at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
     EXPECT_TRUE(data.m_values.empty());
     EXPECT_EQ(recorder.options, (std::vector<std::string>{"file"}));
@@ -153,7 +153,7 @@ TEST_F(PositionalOptions, EmptyArgumentIsTakenAlsoWithNoHyphenFlag) {
     ArgumentList args(std::vector<std::string>{""});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
-    OptionData const& data = result.options().at("file");
+    OptionData const& data = quen_test::storedOptions(result).at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
     EXPECT_TRUE(data.m_values.empty());
 }
@@ -173,10 +173,10 @@ TEST_F(PositionalOptions, RunFlagTakesAllTheRestInOneParse) {
     ArgumentList args(std::vector<std::string>{"a", "-x", "--level", "", "b"});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     EXPECT_TRUE(args.empty());
-    OptionData const& data = result.options().at("file");
+    OptionData const& data = quen_test::storedOptions(result).at("file");
     EXPECT_EQ(data.m_positions.size(), 5U);
     EXPECT_EQ(textsOf(data), (std::vector<std::string>{"a", "-x", "--level", "b"}));
-    EXPECT_EQ(result.options().count("level"), 0U);
+    EXPECT_EQ(quen_test::storedOptions(result).count("level"), 0U);
     EXPECT_EQ(recorder.options, (std::vector<std::string>(5, "file")));
 }
 
@@ -185,7 +185,7 @@ TEST_F(PositionalOptions, ValueIsTakenWholeAndSplitByTokenizer) {
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"--name=x,y"});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
-    OptionData const& data = result.options().at("file");
+    OptionData const& data = quen_test::storedOptions(result).at("file");
     EXPECT_EQ(data.m_positions.size(), 1U);
     EXPECT_EQ(textsOf(data), (std::vector<std::string>{"--name=x", "y"}));
 }
@@ -199,9 +199,9 @@ TEST_F(PositionalOptions, OnlyFirstPositionalOptionIsFilled) {
     while (!args.empty()) {
         ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
     }
-    EXPECT_EQ(textsOf(result.options().at("first")), (std::vector<std::string>{"a", "b", "c"}));
-    EXPECT_EQ(result.options().count("second"), 0U);
-    EXPECT_EQ(result.options().count("level"), 0U);
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("first")), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(quen_test::storedOptions(result).count("second"), 0U);
+    EXPECT_EQ(quen_test::storedOptions(result).count("level"), 0U);
 }
 
 TEST_F(PositionalOptions, PositionalOptionIsStoredUnderEveryName) {
@@ -209,8 +209,8 @@ TEST_F(PositionalOptions, PositionalOptionIsStoredUnderEveryName) {
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"a"});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
-    EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"a"}));
-    EXPECT_EQ(textsOf(result.options().at("f")), (std::vector<std::string>{"a"}));
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("file")), (std::vector<std::string>{"a"}));
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("f")), (std::vector<std::string>{"a"}));
     EXPECT_EQ(recorder.options, (std::vector<std::string>{"file"}));
 }
 
@@ -219,7 +219,7 @@ TEST_F(PositionalOptions, IntegerPositionalConvertsItsValue) {
     PositionalOptionsParser recognizer(&parser, &garbage, 0);
     ArgumentList args(std::vector<std::string>{"42"});
     ASSERT_EQ(recognizeAndParse(recognizer, args), 0);
-    OptionData const& data = result.options().at("count");
+    OptionData const& data = quen_test::storedOptions(result).at("count");
     ASSERT_EQ(data.m_values.size(), 1U);
     EXPECT_EQ(data.m_values[0].first.second.m_type, tarvo2::vt_int);
     EXPECT_EQ(data.m_values[0].first.second.as<int>(), 42);
@@ -234,7 +234,7 @@ TEST_F(PositionalOptions, InvalidValueFailsAndKeepsTheArgument) {
               "Value validation problem in argument 'abc': Option 'count' can not parse 'abc' value, requires a type "
               "'integer' here.");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"abc", "7"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 TEST_F(PositionalOptions, RunStopsAtInvalidValueKeepingEarlierOnes) {
@@ -246,7 +246,7 @@ TEST_F(PositionalOptions, RunStopsAtInvalidValueKeepingEarlierOnes) {
               "Value validation problem in argument 'abc': Option 'count' can not parse 'abc' value, requires a type "
               "'integer' here.");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"abc", "3"}));
-    EXPECT_EQ(textsOf(result.options().at("count")), (std::vector<std::string>{"1"}));
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("count")), (std::vector<std::string>{"1"}));
 }
 
 TEST_F(PositionalOptions, HandlerVetoFailsWithOneAndKeepsTheArgument) {
@@ -257,7 +257,7 @@ TEST_F(PositionalOptions, HandlerVetoFailsWithOneAndKeepsTheArgument) {
     EXPECT_EQ(recognizeAndParse(recognizer, args), 1);
     EXPECT_EQ(message, "Value 'a' is not valid for option 'file' in argument 'a'");
     EXPECT_EQ(remaining(args), (std::vector<std::string>{"a"}));
-    EXPECT_TRUE(result.options().empty());
+    EXPECT_TRUE(quen_test::storedOptions(result).empty());
 }
 
 // Trace
@@ -288,7 +288,7 @@ TEST_F(PositionalOptions, TraceWithoutTokenizer) {
               "PositionalOptionsParser: not using tokenizer\n"
               "PositionalOptionsParser: stored option to result container.\n"
               "PositionalOptionsParser: removing argument: 'a,b'\n");
-    EXPECT_EQ(textsOf(result.options().at("file")), (std::vector<std::string>{"a,b"}));
+    EXPECT_EQ(textsOf(quen_test::storedOptions(result).at("file")), (std::vector<std::string>{"a,b"}));
 }
 
 TEST_F(PositionalOptions, TraceOfEmptyArgument) {

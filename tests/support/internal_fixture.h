@@ -57,6 +57,32 @@ inline std::vector<std::string> textsOf(std::vector<quen_3_1::ValueEntry> const&
 
 inline std::vector<std::string> textsOf(quen_3_1::OptionData const& data) { return textsOf(data.m_values); }
 
+// What a result holds under each name, as a map of names to copies of their
+// option's data with the name's own default.
+class StoredOptions {
+public:
+    explicit StoredOptions(quen_3_1::ParseResult const& result) : m_result(result) {}
+
+    // Throws std::out_of_range for a name the result does not know.
+    quen_3_1::OptionData at(std::string const& name) const {
+        quen_3_1::ParseResult::NameEntry const& entry = m_result.names().at(name);
+        quen_3_1::ParseResult::Record const& record = m_result.record(entry.record);
+        quen_3_1::OptionData data;
+        data.m_positions = record.positions;
+        data.m_values = record.values;
+        data.m_default = entry.defaultEntry;
+        return data;
+    }
+    std::size_t count(std::string const& name) const { return m_result.names().count(name); }
+    std::size_t size() const { return m_result.names().size(); }
+    bool empty() const { return m_result.names().empty(); }
+
+private:
+    quen_3_1::ParseResult const& m_result;
+};
+
+inline StoredOptions storedOptions(quen_3_1::ParseResult const& result) { return StoredOptions(result); }
+
 // Remembers the option and value events a parser fans out; refuses every
 // value while `accept` is false.
 class EventRecorder final : public quen_3_1::EventHandler {

@@ -33,7 +33,7 @@ int rounds() {
 std::vector<std::int32_t> numbersInOrder(ParseResult& result) {
     std::vector<std::int32_t> numbers;
     for (char const* name : {"tag", "password", "rest"}) {
-        quen_3_1::OptionData const& data = result.options().at(name);
+        quen_3_1::OptionData const& data = quen_test::storedOptions(result).at(name);
         numbers.insert(numbers.end(), data.m_positions.begin(), data.m_positions.end());
         for (quen_3_1::ValueEntry const& entry : data.m_values) {
             numbers.push_back(entry.second);
