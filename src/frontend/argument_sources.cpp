@@ -3,9 +3,11 @@
 #include <exception>
 
 #include "frontend/basic_parser.h"
+#include "frontend/messages.h"
 #include "frontend/option_text_lines.h"
 #include "frontend/ustring.h"
 #include "recognizers/argument_parser.h"
+#include "recognizers/messages.h"
 #include "results/parse_result.h"
 
 namespace quen_3_1 {
@@ -63,7 +65,7 @@ int BasicParser::refuseWhenNumbersSpent() {
     if (!IArgumentParser::numbersExhausted()) {
         return 0;
     }
-    setLastError(IArgumentParser::kNumbersExhaustedMessage);
+    setLastError(recognizer_messages::numbersExhausted());
     return IArgumentParser::kNumbersExhaustedCode;
 }
 
@@ -80,7 +82,7 @@ int BasicParser::parseVector(std::vector<std::string> args, IParseResult* result
         }
         return code;
     } catch (std::exception const&) {
-        setLastError("Unidentified problem detected.");
+        setLastError(frontend_messages::unidentifiedProblem());
         return 4;
     }
 }

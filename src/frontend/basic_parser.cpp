@@ -3,6 +3,8 @@
 #include <exception>
 #include <new>
 
+#include "frontend/messages.h"
+#include "help/help_text.h"
 #include "results/parse_result.h"
 
 namespace quen_3_1 {
@@ -25,6 +27,15 @@ IOption* BasicParser::option(char const* names, char const* description, kel_var
 }
 
 char const* BasicParser::getErrorDesc() { return m_garbage.keep(m_lastError); }
+
+char const* BasicParser::getDescription(bool hidden) {
+    try {
+        return m_garbage.keep(describeOptions(m_storage, hidden));
+    } catch (std::exception const&) {
+        setLastError(frontend_messages::helpFailed());
+        return getErrorDesc();
+    }
+}
 
 void BasicParser::setLastError(std::string const& text) { m_lastError = text; }
 

@@ -48,17 +48,12 @@ public:
     // as a plain argument; with FlagPositionalAfterTerminator also offers it
     // to the positional option.
     int collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error);
-    // Wraps `text` into lines of at most indent + width - 1 characters, the
-    // first one starting with `head`.
-    static std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width);
 
     RegisteredOptionStorage const& storage() const { return m_storage; }
     // The keeper of every text this parser hands out.
     Garbage& keeper() { return m_garbage; }
 
 private:
-    std::string describe(bool hidden);
-    std::string describeOption(OptionDescription const& option);
     // 0 while sequence numbers are left; else their code, with the last error set.
     int refuseWhenNumbersSpent();
     int offerToPositional(std::string const& argument, ParseResult* result, std::string& error);

@@ -4,22 +4,18 @@
 #include <exception>
 
 #include "frontend/basic_parser.h"
+#include "frontend/messages.h"
 #include "frontend/trace.h"
 #include "recognizers/abbreviation_parser.h"
+#include "recognizers/messages.h"
 #include "recognizers/positional_options_parser.h"
 #include "results/parse_result.h"
 
 namespace quen_3_1 {
 
-namespace {
-
-char const kTraceSwitch[] = "quenoption=quenlogenable=1";
-
-}  // namespace
-
 int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error) {
     internal::quenLogEnabled = false;
-    if (!args.empty() && args[0] == kTraceSwitch) {
+    if (!args.empty() && args[0] == frontend_messages::traceSwitch()) {
         internal::quenLogEnabled = true;
         args.popFront();
     }
@@ -47,7 +43,7 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
         // Handlers hear of every unclaimed argument, whether or not it is an error.
         bool const unknown = onUknownArgument(args[0].c_str());
         if ((m_flags & FlagUnknownIsError) != 0 && unknown) {
-            error = "Unknown option: " + args[0];
+            error = frontend_messages::unknownOption(args[0]);
             return 2;
         }
         internal::trace("ignoring ", args[0]);
@@ -62,7 +58,7 @@ int BasicParser::collectNonparsingArguments(ArgumentList const& args, ParseResul
             std::string const& argument = args[i];
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
-                error = IArgumentParser::kNumbersExhaustedMessage;
+                error = recognizer_messages::numbersExhausted();
                 return IArgumentParser::kNumbersExhaustedCode;
             }
             if (result != nullptr) {

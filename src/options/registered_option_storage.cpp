@@ -13,11 +13,7 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
     std::pair<std::string, std::string> const groupEntry = recordGroup(group);
     m_invalidOption.setStatus(3);
     std::vector<std::string> list;
-    int const code = split(names, list);
-    if (code != 0) {
-        m_invalidOption.setStatus(code);
-        return &m_invalidOption;
-    }
+    split(names, list);
     if (validateName(list) == 1) {
         m_invalidOption.setStatus(1);
         return &m_invalidOption;

@@ -6,6 +6,7 @@
 #include "frontend/trace.h"
 #include "options/name_index.h"
 #include "options/registered_option_storage.h"
+#include "recognizers/messages.h"
 
 namespace quen_3_1 {
 
@@ -49,7 +50,7 @@ bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionSto
         found.tied = best;
         if (internal::quenLogEnabled) {
             internal::trace(m_name, ": failed to get best match for '", typed, "' in argument '", argument,
-                            "':Ambiguous option, possible options are: ", listCandidates(index, best));
+                            "':", recognizer_messages::ambiguousCandidates(listCandidates(index, best)));
         }
         return true;
     }
@@ -70,8 +71,8 @@ int AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IRes
         // The message drops both leading hyphens, so "--" shows an empty name
         // although it was matched as "-".
         std::size_t const start = argument[1] == '-' ? 2 : 1;
-        message = "Ambiguous option '" + argument.substr(start, found.nameEnd - start) + "'" + tokenPart(args) +
-                  ", could be: " + listCandidates(storage.names(), found.tied);
+        message = recognizer_messages::ambiguousOption(argument.substr(start, found.nameEnd - start), tokenPart(args),
+                                                       listCandidates(storage.names(), found.tied));
         return 2;
     }
     OptionDescription const& option = storage.at(found.option);
@@ -104,7 +105,7 @@ int AbbreviationParser::decideValue(ArgumentList const& args, Recognition const&
                                     std::string& value, std::string& message) {
     if (option.type() == tarvo2::vt_empty) {
         if (!value.empty()) {
-            return fail(message, "Option '" + option.primaryName() + "'does not requires a value" + tokenPart(args));
+            return fail(message, recognizer_messages::valueRefused(option.primaryName(), tokenPart(args)));
         }
         return 0;
     }
@@ -112,8 +113,7 @@ int AbbreviationParser::decideValue(ArgumentList const& args, Recognition const&
         return found.arguments == 2 ? valueFromNextArgument(args, option, value, message) : 0;
     }
     if (!value.empty()) {
-        return fail(message, "Option '" + option.primaryName() + "' is boolean and should be declared in form " +
-                                 "'--option' or '--no-option'" + tokenPart(args));
+        return fail(message, recognizer_messages::booleanForm(option.primaryName(), tokenPart(args)));
     }
     value = found.noForm ? "0" : "1";
     return 0;
@@ -125,17 +125,15 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList const& args, OptionDe
                                               std::string& value, std::string& message) {
     internal::trace(m_name, ": no value in the same argument, looking next");
     if (args.size() == 1) {
-        return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));
+        return fail(message, recognizer_messages::valueRequired(option.primaryName(), tokenPart(args)));
     }
     value = args[1];
     if (!value.empty() && value[0] == '-') {
-        return fail(message, "Option '" + option.primaryName() + "received value from the next argument: '" + value +
-                                 "', but it seems to be an option. Use '-option=value' declaration form" +
-                                 " or make sure that value is not missed");
+        return fail(message, recognizer_messages::nextLooksLikeOption(option.primaryName(), value));
     }
     internal::trace(m_name, ": got value from the next argument: '", value, "'");
     if (value.empty()) {
-        return fail(message, "Option '" + option.primaryName() + "' requires a value" + tokenPart(args));
+        return fail(message, recognizer_messages::valueRequired(option.primaryName(), tokenPart(args)));
     }
     return 0;
 }

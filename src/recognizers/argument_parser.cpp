@@ -2,6 +2,7 @@
 
 #include "frontend/trace.h"
 #include "options/option_description.h"
+#include "recognizers/messages.h"
 #include "results/result_collector.h"
 #include "values/separator_split.h"
 #include "values/variant_transfer.h"
@@ -9,9 +10,6 @@
 namespace quen_3_1 {
 
 std::atomic<std::int32_t> IArgumentParser::m_idx{1};
-
-char const IArgumentParser::kNumbersExhaustedMessage[] =
-    "Sequence numbers exhausted: this process can number no more values.";
 
 std::int32_t IArgumentParser::takeNumber() {
     std::int32_t next = m_idx.load(std::memory_order_relaxed);
@@ -26,7 +24,7 @@ std::int32_t IArgumentParser::takeNumber() {
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
     : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags) {}
 
-std::string IArgumentParser::formatTokenMessage(std::string& token) { return " in argument: '" + token + "'"; }
+std::string IArgumentParser::formatTokenMessage(std::string& token) { return recognizer_messages::inArgument(token); }
 
 int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
                                             ArgumentList& args, IResultCollector* collector) {
@@ -73,7 +71,7 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
 }
 
 int IArgumentParser::refuseForWantOfNumbers(std::string& message) {
-    message = kNumbersExhaustedMessage;
+    message = recognizer_messages::numbersExhausted();
     internal::trace(m_name, ": ", message);
     return kNumbersExhaustedCode;
 }
@@ -84,7 +82,7 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
     tarvo2::variant_t converted;
     std::string reason;
     if (!option.validate(piece, converted, reason)) {
-        message = "Value validation problem in argument '" + args[0] + "': " + reason;
+        message = recognizer_messages::validationProblem(args[0], reason);
         internal::trace(m_name, ": ", message);
         return 2;
     }
@@ -95,8 +93,7 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
     Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
     transferVariant(event.m_value, converted);
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
-        message = "Value '" + whole + "' is not valid for option '" + option.primaryName() + "' in argument '" +
-                  args[0] + "'";
+        message = recognizer_messages::valueVetoed(whole, option.primaryName(), args[0]);
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return 1;
     }

@@ -55,7 +55,6 @@ public:
     static constexpr std::int32_t kLastNumber = kNoNumber - 1;
     // What an operation that needs a number answers when none is left.
     static constexpr int kNumbersExhaustedCode = 5;
-    static char const kNumbersExhaustedMessage[];
 
 protected:
     // Splits, validates, announces and stores one value text of `option`:

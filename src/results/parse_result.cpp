@@ -5,6 +5,7 @@
 #include "options/option_description.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_parser.h"
+#include "recognizers/messages.h"
 #include "values/variant_transfer.h"
 
 namespace quen_3_1 {
@@ -146,7 +147,7 @@ int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& mes
         for (std::string const& name : option.names()) {
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
-                message = IArgumentParser::kNumbersExhaustedMessage;
+                message = recognizer_messages::numbersExhausted();
                 return IArgumentParser::kNumbersExhaustedCode;
             }
             auto const placed = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()});

@@ -7,6 +7,7 @@
 #include "options/option_description.h"
 #include "values/classic_extraction.h"
 #include "values/garbage.h"
+#include "values/messages.h"
 #include "values/typed_operations.h"
 #include "values/variant_transfer.h"
 
@@ -107,43 +108,43 @@ bool OperationToString::execute<char const*>() {
 
 template <class T>
 bool OperatorGetTypeName::execute() {
-    name = "undefined";
+    name = value_messages::typeNameUndefined();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<int>() {
-    name = "integer";
+    name = value_messages::typeNameInteger();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<unsigned int>() {
-    name = "unsigned integer";
+    name = value_messages::typeNameUnsigned();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<long long>() {
-    name = "64 bit integer";
+    name = value_messages::typeNameInteger64();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<unsigned long long>() {
-    name = "unsigned 64 bit or hex";
+    name = value_messages::typeNameUnsigned64();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<double>() {
-    name = "double";
+    name = value_messages::typeNameDouble();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<char const*>() {
-    name = "string";
+    name = value_messages::typeNameText();
     return true;
 }
 

@@ -5,6 +5,7 @@
 
 #include "options/option_description.h"
 #include "values/garbage.h"
+#include "values/messages.h"
 #include "values/variant_transfer.h"
 
 namespace quen_3_1 {
@@ -27,8 +28,7 @@ bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, st
     tarvo2::variant_t converted = fromString(text.c_str(), m_garbage);
     transferVariant(value, converted);
     if (value.m_type == tarvo2::vt_empty) {
-        message = "Option '" + primaryName() + "' can not parse '" + text + "' value, requires a type '" +
-                  getTypeName() + "' here.";
+        message = value_messages::cannotParse(primaryName(), text, getTypeName());
         return false;
     }
     if (m_allowedValues.empty()) {
@@ -45,8 +45,7 @@ bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, st
             return outcome == AbbreviationOutcome::Unique;
         }
     }
-    message = "Option '" + primaryName() + "' does not allow value '" + text +
-              "'. Possible values follows: " + allowedValuesList();
+    message = value_messages::notAllowed(primaryName(), text, allowedValuesList());
     return false;
 }
 
@@ -70,7 +69,7 @@ OptionDescription::AbbreviationOutcome OptionDescription::validateAbbreviation(s
         return AbbreviationOutcome::Unique;
     }
     if (matches > 1) {
-        message = "Ambiguous value for option '" + primaryName() + "'. Possible values follows: " + allowedValuesList();
+        message = value_messages::ambiguousValue(primaryName(), allowedValuesList());
         return AbbreviationOutcome::Ambiguous;
     }
     return AbbreviationOutcome::NoMatch;

@@ -7,6 +7,7 @@
 
 #include "frontend/basic_parser.h"
 #include "frontend/trace.h"
+#include "help/help_text.h"
 #include "options/option_description.h"
 #include "support/internal_fixture.h"
 
@@ -18,30 +19,26 @@ class ParagraphString : public quen_test::InternalTest {};
 
 std::string spaces(std::size_t count) { return std::string(count, ' '); }
 
-TEST_F(ParagraphString, EmptyTextDropsTheHead) {
-    EXPECT_EQ(BasicParser::paragraphString("", "-x=<integer>", 30, 50), "");
-}
+TEST_F(ParagraphString, EmptyTextDropsTheHead) { EXPECT_EQ(quen_3_1::paragraphString("", "-x=<integer>", 30, 50), ""); }
 
-TEST_F(ParagraphString, EmptyTextWithEmptyHeadGivesNothing) {
-    EXPECT_EQ(BasicParser::paragraphString("", "", 1, 80), "");
-}
+TEST_F(ParagraphString, EmptyTextWithEmptyHeadGivesNothing) { EXPECT_EQ(quen_3_1::paragraphString("", "", 1, 80), ""); }
 
 TEST_F(ParagraphString, LeadingSpacesAndNewlinesAreStripped) {
-    EXPECT_EQ(BasicParser::paragraphString("  \n \n  word", "", 4, 20), "    word\n");
+    EXPECT_EQ(quen_3_1::paragraphString("  \n \n  word", "", 4, 20), "    word\n");
 }
 
 TEST_F(ParagraphString, ShortHeadIsPaddedToTheIndent) {
-    EXPECT_EQ(BasicParser::paragraphString("text", "-a", 6, 20), "-a    text\n");
+    EXPECT_EQ(quen_3_1::paragraphString("text", "-a", 6, 20), "-a    text\n");
 }
 
 // The head takes the whole indent and one space more, so the first line may
 // hold width - 2 + indent - head characters of text.
 TEST_F(ParagraphString, HeadAsLongAsTheIndentGetsOneSpace) {
-    EXPECT_EQ(BasicParser::paragraphString("abcd efg hij", "-abc", 4, 10), "-abc abcd efg\n    hij\n");
+    EXPECT_EQ(quen_3_1::paragraphString("abcd efg hij", "-abc", 4, 10), "-abc abcd efg\n    hij\n");
 }
 
 TEST_F(ParagraphString, HeadLongerThanTheIndentShortensTheFirstLine) {
-    EXPECT_EQ(BasicParser::paragraphString("abc defgh", "-abcdef", 4, 10), "-abcdef abc\n    defgh\n");
+    EXPECT_EQ(quen_3_1::paragraphString("abc defgh", "-abcdef", 4, 10), "-abcdef abc\n    defgh\n");
 }
 
 // head longer than indent + width - 2: the limit wraps around in unsigned
@@ -49,43 +46,43 @@ TEST_F(ParagraphString, HeadLongerThanTheIndentShortensTheFirstLine) {
 TEST_F(ParagraphString, HeadBeyondTheLineKeepsTheWholeFirstLine) {
     std::string const head = "-a-very-long-head-of-thirty-ch";
     ASSERT_EQ(head.size(), 30u);
-    EXPECT_EQ(BasicParser::paragraphString("aaaa bbbb cccc dddd eeee", head, 10, 10),
+    EXPECT_EQ(quen_3_1::paragraphString("aaaa bbbb cccc dddd eeee", head, 10, 10),
               head + " aaaa bbbb cccc dddd eeee\n");
 }
 
 TEST_F(ParagraphString, HeadBeyondTheLineStillBreaksAtANewline) {
     std::string const head = "-a-very-long-head-of-thirty-ch";
-    EXPECT_EQ(BasicParser::paragraphString("first part\nsecond", head, 10, 10),
+    EXPECT_EQ(quen_3_1::paragraphString("first part\nsecond", head, 10, 10),
               head + " first part\n" + spaces(10) + "second\n");
 }
 
 TEST_F(ParagraphString, BreakInsideAWordMovesTheWordDown) {
-    EXPECT_EQ(BasicParser::paragraphString("alpha betagamma", "", 2, 12), "  alpha\n  betagamma\n");
+    EXPECT_EQ(quen_3_1::paragraphString("alpha betagamma", "", 2, 12), "  alpha\n  betagamma\n");
 }
 
 TEST_F(ParagraphString, BreakOnASpaceKeepsTheLineWhole) {
-    EXPECT_EQ(BasicParser::paragraphString("alpha beta gamma", "", 2, 11), "  alpha beta\n  gamma\n");
+    EXPECT_EQ(quen_3_1::paragraphString("alpha beta gamma", "", 2, 11), "  alpha beta\n  gamma\n");
 }
 
 // A limit that ends right after a space is not a split word: the space stays
 // at the end of the line.
 TEST_F(ParagraphString, BreakRightAfterASpaceKeepsTheTrailingSpace) {
-    EXPECT_EQ(BasicParser::paragraphString("alpha beta gamma", "", 2, 12), "  alpha beta \n  gamma\n");
+    EXPECT_EQ(quen_3_1::paragraphString("alpha beta gamma", "", 2, 12), "  alpha beta \n  gamma\n");
 }
 
 TEST_F(ParagraphString, WordLongerThanTheLineIsBrokenHard) {
-    EXPECT_EQ(BasicParser::paragraphString("abcdefghijklmno", "", 2, 6), "  abcde\n  fghij\n  klmno\n");
+    EXPECT_EQ(quen_3_1::paragraphString("abcdefghijklmno", "", 2, 6), "  abcde\n  fghij\n  klmno\n");
 }
 
 TEST_F(ParagraphString, LongWordAfterAShortOneGetsItsOwnLinesThenBreaksHard) {
-    EXPECT_EQ(BasicParser::paragraphString("ab cdefghijkl", "", 2, 6), "  ab\n  cdefg\n  hijkl\n");
+    EXPECT_EQ(quen_3_1::paragraphString("ab cdefghijkl", "", 2, 6), "  ab\n  cdefg\n  hijkl\n");
 }
 
 TEST_F(ParagraphString, HundredCharactersWithoutSpacesGiveLinesOf49And49And2) {
     std::string const text =
         "0123456789012345678901234567890123456789012345678901234567890123456789012345678901234567890123456789";
     ASSERT_EQ(text.size(), 100u);
-    EXPECT_EQ(BasicParser::paragraphString(text, "-x", 30, 50),
+    EXPECT_EQ(quen_3_1::paragraphString(text, "-x", 30, 50),
               "-x" + spaces(28) + "0123456789012345678901234567890123456789012345678\n" + spaces(30) +
                   "9012345678901234567890123456789012345678901234567\n" + spaces(30) + "89\n");
 }
@@ -93,48 +90,48 @@ TEST_F(ParagraphString, HundredCharactersWithoutSpacesGiveLinesOf49And49And2) {
 // The emptiness test comes before the stripping, so what is left after the
 // last word gives one line of indentation only.
 TEST_F(ParagraphString, TextEndingInANewlineGivesALineOfIndentationOnly) {
-    EXPECT_EQ(BasicParser::paragraphString("abc\n", "", 4, 10), "    abc\n    \n");
+    EXPECT_EQ(quen_3_1::paragraphString("abc\n", "", 4, 10), "    abc\n    \n");
 }
 
 TEST_F(ParagraphString, SpacesLeftAfterTheLastBreakGiveALineOfIndentationOnly) {
-    EXPECT_EQ(BasicParser::paragraphString("abcde   ", "", 2, 6), "  abcde\n  \n");
+    EXPECT_EQ(quen_3_1::paragraphString("abcde   ", "", 2, 6), "  abcde\n  \n");
 }
 
 TEST_F(ParagraphString, TrailingSpacesThatFitStayOnTheLine) {
-    EXPECT_EQ(BasicParser::paragraphString("abc  ", "", 4, 10), "    abc  \n");
+    EXPECT_EQ(quen_3_1::paragraphString("abc  ", "", 4, 10), "    abc  \n");
 }
 
 TEST_F(ParagraphString, EmbeddedNewlinesAreHardBreaks) {
-    EXPECT_EQ(BasicParser::paragraphString("one\ntwo three", "-h", 4, 20), "-h  one\n    two three\n");
+    EXPECT_EQ(quen_3_1::paragraphString("one\ntwo three", "-h", 4, 20), "-h  one\n    two three\n");
 }
 
 TEST_F(ParagraphString, ConsecutiveBlankLinesCollapse) {
-    EXPECT_EQ(BasicParser::paragraphString("one\n\n\ntwo\n  \n three", "", 2, 20), "  one\n  two\n  three\n");
+    EXPECT_EQ(quen_3_1::paragraphString("one\n\n\ntwo\n  \n three", "", 2, 20), "  one\n  two\n  three\n");
 }
 
 TEST_F(ParagraphString, NewlineBeforeTheLimitWinsOverTheWidth) {
-    EXPECT_EQ(BasicParser::paragraphString("ab cd\nef gh ij kl", "", 2, 9), "  ab cd\n  ef gh ij\n  kl\n");
+    EXPECT_EQ(quen_3_1::paragraphString("ab cd\nef gh ij kl", "", 2, 9), "  ab cd\n  ef gh ij\n  kl\n");
 }
 
 // A zero limit reaches the character before position 0 through the
 // bounds-checked access.
 TEST_F(ParagraphString, ZeroLimitAfterPaddingThrowsOutOfRange) {
-    EXPECT_THROW(BasicParser::paragraphString("word", "", 3, 1), std::out_of_range);
+    EXPECT_THROW(quen_3_1::paragraphString("word", "", 3, 1), std::out_of_range);
 }
 
 TEST_F(ParagraphString, ZeroLimitAfterALongHeadThrowsOutOfRange) {
-    EXPECT_THROW(BasicParser::paragraphString("word", "-abcd", 3, 4), std::out_of_range);
+    EXPECT_THROW(quen_3_1::paragraphString("word", "-abcd", 3, 4), std::out_of_range);
 }
 
 TEST_F(ParagraphString, ZeroLimitWithOnlyBlanksLeftDoesNotThrow) {
-    EXPECT_EQ(BasicParser::paragraphString(" \n ", "", 3, 1), "   \n");
+    EXPECT_EQ(quen_3_1::paragraphString(" \n ", "", 3, 1), "   \n");
 }
 
 TEST_F(ParagraphString, GroupTitleWrapsAt79CharactersAfterOneSpace) {
     std::string const title =
         "Options read before any command runs, whatever the input format or target is; also read from the settings "
         "file";
-    EXPECT_EQ(BasicParser::paragraphString(title, "", 1, 80),
+    EXPECT_EQ(quen_3_1::paragraphString(title, "", 1, 80),
               " Options read before any command runs, whatever the input format or target is;\n"
               " also read from the settings file\n");
 }
@@ -142,7 +139,7 @@ TEST_F(ParagraphString, GroupTitleWrapsAt79CharactersAfterOneSpace) {
 TEST_F(ParagraphString, GroupTitleOfExactly79CharactersStaysOnOneLine) {
     std::string const title = "Exactly seventy-nine characters of title text, which all fit on the first line.";
     ASSERT_EQ(title.size(), 79u);
-    EXPECT_EQ(BasicParser::paragraphString(title, "", 1, 80), " " + title + "\n");
+    EXPECT_EQ(quen_3_1::paragraphString(title, "", 1, 80), " " + title + "\n");
 }
 
 // The registry records every option's group before storing the option, so no

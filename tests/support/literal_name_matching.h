@@ -14,6 +14,7 @@
 #include "options/name_index.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/decomposed_name.h"
+#include "recognizers/messages.h"
 #include "recognizers/name_matching.h"
 
 namespace quen_test {
@@ -133,7 +134,7 @@ public:
             return 1;
         }
         if (ids.size() > 1) {
-            message = "Ambiguous option, possible options are: " + quen_3_1::listCandidates(index, ids);
+            message = quen_3_1::recognizer_messages::ambiguousCandidates(quen_3_1::listCandidates(index, ids));
             return 2;
         }
         best = ids.front();

@@ -9,6 +9,7 @@
 
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_list.h"
+#include "recognizers/messages.h"
 #include "recognizers/name_matching.h"
 #include "recognizers/recognition.h"
 #include "results/result_collector.h"
@@ -25,8 +26,8 @@ public:
     int recognize(quen_3_1::ArgumentList& args, quen_3_1::RegisteredOptionStorage& storage, std::string& message) {
         bool const taken = m_recognizer.recognize(args, storage, m_found);
         if (!m_found.tied.empty()) {
-            message =
-                "Ambiguous option, possible options are: " + quen_3_1::listCandidates(storage.names(), m_found.tied);
+            message = quen_3_1::recognizer_messages::ambiguousCandidates(
+                quen_3_1::listCandidates(storage.names(), m_found.tied));
         }
         return taken ? 0 : 1;
     }

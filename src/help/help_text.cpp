@@ -1,9 +1,10 @@
 // The help text: groups in registry order, one entry per listed option with
 // its names and value syntax, descriptions wrapped into a right-hand column.
-#include <exception>
+#include "help/help_text.h"
+
 #include <sstream>
 
-#include "frontend/basic_parser.h"
+#include "options/registered_option_storage.h"
 
 namespace quen_3_1 {
 
@@ -73,43 +74,8 @@ std::string headOf(OptionDescription const& option) {
     return head;
 }
 
-}  // namespace
-
-char const* BasicParser::getDescription(bool hidden) {
-    try {
-        return m_garbage.keep(describe(hidden));
-    } catch (std::exception const&) {
-        setLastError("Unknown error handled.");
-        return getErrorDesc();
-    }
-}
-
-std::string BasicParser::describe(bool hidden) {
-    std::stringstream text;
-    text << "\n";
-    for (auto const& group : m_storage.groups()) {
-        if (!isShown(group.first, hidden)) {
-            continue;
-        }
-        if (!group.first.empty()) {
-            text << group.first << "\n";
-        }
-        if (!group.second.empty()) {
-            text << paragraphString(group.second, "", kGroupIndent, kGroupWidth) << "\n";
-        }
-        for (std::size_t i = 0; i < m_storage.size(); ++i) {
-            OptionDescription const& option = m_storage.at(i);
-            if (!option.isPositional() && option.group() == group.first) {
-                text << describeOption(option);
-            }
-        }
-        text << "\n";
-    }
-    return text.str();
-}
-
 // A head too long for the name column gets a line of its own.
-std::string BasicParser::describeOption(OptionDescription const& option) {
+std::string describeOption(OptionDescription const& option) {
     std::string head = headOf(option);
     std::string prefix;
     if (head.size() > kNameColumnLimit) {
@@ -119,10 +85,35 @@ std::string BasicParser::describeOption(OptionDescription const& option) {
     return prefix + paragraphString(option.description(), head, kDescriptionColumn, kDescriptionWidth);
 }
 
+}  // namespace
+
+std::string describeOptions(RegisteredOptionStorage const& options, bool hidden) {
+    std::stringstream text;
+    text << "\n";
+    for (auto const& group : options.groups()) {
+        if (!isShown(group.first, hidden)) {
+            continue;
+        }
+        if (!group.first.empty()) {
+            text << group.first << "\n";
+        }
+        if (!group.second.empty()) {
+            text << paragraphString(group.second, "", kGroupIndent, kGroupWidth) << "\n";
+        }
+        for (std::size_t i = 0; i < options.size(); ++i) {
+            OptionDescription const& option = options.at(i);
+            if (!option.isPositional() && option.group() == group.first) {
+                text << describeOption(option);
+            }
+        }
+        text << "\n";
+    }
+    return text.str();
+}
+
 // An empty text drops the head. A text ending in blanks or newlines gives a
 // last line of indentation only: the emptiness test precedes the stripping.
-std::string BasicParser::paragraphString(std::string text, std::string head, unsigned long indent,
-                                         unsigned long width) {
+std::string paragraphString(std::string text, std::string head, unsigned long indent, unsigned long width) {
     if (text.empty()) {
         return std::string();
     }

@@ -1,0 +1,27 @@
+#include "values/messages.h"
+
+namespace quen_3_1 {
+namespace value_messages {
+
+char const* typeNameUndefined() { return "undefined"; }
+char const* typeNameInteger() { return "integer"; }
+char const* typeNameUnsigned() { return "unsigned integer"; }
+char const* typeNameInteger64() { return "64 bit integer"; }
+char const* typeNameUnsigned64() { return "unsigned 64 bit or hex"; }
+char const* typeNameDouble() { return "double"; }
+char const* typeNameText() { return "string"; }
+
+std::string cannotParse(std::string const& option, std::string const& text, std::string const& typeName) {
+    return "Option '" + option + "' can not parse '" + text + "' value, requires a type '" + typeName + "' here.";
+}
+
+std::string notAllowed(std::string const& option, std::string const& text, std::string const& allowedList) {
+    return "Option '" + option + "' does not allow value '" + text + "'. Possible values follows: " + allowedList;
+}
+
+std::string ambiguousValue(std::string const& option, std::string const& allowedList) {
+    return "Ambiguous value for option '" + option + "'. Possible values follows: " + allowedList;
+}
+
+}  // namespace value_messages
+}  // namespace quen_3_1

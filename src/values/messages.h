@@ -1,0 +1,26 @@
+#ifndef QUEN_3_1_VALUES_MESSAGES_H
+#define QUEN_3_1_VALUES_MESSAGES_H
+
+#include <string>
+
+// The fixed texts of value conversion and validation, each written once here.
+namespace quen_3_1 {
+namespace value_messages {
+
+// The display names of the kinds, as messages and help show them.
+char const* typeNameUndefined();
+char const* typeNameInteger();
+char const* typeNameUnsigned();
+char const* typeNameInteger64();
+char const* typeNameUnsigned64();
+char const* typeNameDouble();
+char const* typeNameText();
+
+std::string cannotParse(std::string const& option, std::string const& text, std::string const& typeName);
+std::string notAllowed(std::string const& option, std::string const& text, std::string const& allowedList);
+std::string ambiguousValue(std::string const& option, std::string const& allowedList);
+
+}  // namespace value_messages
+}  // namespace quen_3_1
+
+#endif
