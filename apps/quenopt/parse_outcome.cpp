@@ -9,6 +9,8 @@
 #include <iterator>
 #include <utility>
 
+#include "fail_closed.h"
+
 namespace quenopt {
 
 namespace {
@@ -25,6 +27,7 @@ public:
         std::fflush(stdout);
         m_saved = dup(1);
         if (m_saved >= 0) {
+            setScriptDescriptor(m_saved);
             dup2(2, 1);
         }
     }
@@ -35,6 +38,7 @@ public:
         std::fflush(stdout);
         if (m_saved >= 0) {
             dup2(m_saved, 1);
+            setScriptDescriptor(1);
             close(m_saved);
         }
     }
