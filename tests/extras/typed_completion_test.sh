@@ -66,6 +66,22 @@ if ! wait_for "$work/ready"; then
     exit 1
 fi
 
+# Waits up to ten seconds for the shell to complete the line that reads $1:
+# for the last line of the screen that holds $1 to go on after it.
+wait_for_completion() {
+    local tries line
+    for ((tries = 0; tries < 100; tries++)); do
+        sleep 0.1
+        line=$(tmux -S "$socket" capture-pane -p | grep -F -- "$1" | tail -n 1)
+        line=${line%"${line##*[! ]}"}
+        if [[ -n $line && $line != *"$1" ]]; then
+            sleep 0.2
+            return 0
+        fi
+    done
+    return 1
+}
+
 passed=0
 failed=0
 # check TYPED EXPECTED: types "quen-sample TYPED", Tab, Enter; the program
@@ -76,7 +92,7 @@ check() {
     tmux -S "$socket" send-keys -l "quen-sample $typed"
     sleep 0.3
     tmux -S "$socket" send-keys Tab
-    sleep 1
+    wait_for_completion "quen-sample $typed"
     tmux -S "$socket" send-keys Enter
     if ! wait_for "$work/args"; then
         got="(the program did not run)"
