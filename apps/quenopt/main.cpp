@@ -5,9 +5,11 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "fail_closed.h"
 #include "option_table.h"
 #include "output_formats.h"
 #include "parse_outcome.h"
@@ -22,7 +24,6 @@ namespace {
 int const kExitUsage = 64;
 int const kExitTable = 65;
 int const kExitNoTable = 66;
-int const kExitInternal = 70;
 
 char const kUsage[] =
     "Usage: quenopt --table FILE [--format sh|bash|json] [--prefix P] [--flags N] -- [ARGUMENT...]\n"
@@ -69,8 +70,9 @@ bool parseFlags(std::string const& text, int& flags) {
     return true;
 }
 
-// Returns -1 when the settings are complete, otherwise the exit code.
-int readSettings(int argc, char** argv, Settings& settings) {
+// Returns -1 when the settings are complete, otherwise the exit code, with
+// what standard output carries for --help and --version in `output`.
+int readSettings(int argc, char** argv, Settings& settings, std::string& output) {
     int at = 1;
     for (; at < argc; ++at) {
         std::string argument = argv[at];
@@ -79,11 +81,11 @@ int readSettings(int argc, char** argv, Settings& settings) {
             break;
         }
         if (argument == "--help") {
-            std::cout << kUsage;
+            output = kUsage;
             return 0;
         }
         if (argument == "--version") {
-            std::cout << "quenopt " << QUENOPT_VERSION << '\n';
+            output = std::string("quenopt ") + QUENOPT_VERSION + "\n";
             return 0;
         }
         std::string name = argument;
@@ -132,9 +134,12 @@ int readSettings(int argc, char** argv, Settings& settings) {
     return -1;
 }
 
-int run(int argc, char** argv) {
+// Runs quenopt and returns its exit status, with what standard output is to
+// carry in `output`: on every failure of its own, the exit command that stops
+// the evaluating script.
+int run(int argc, char** argv, std::string& output) {
     Settings settings;
-    int code = readSettings(argc, argv, settings);
+    int code = readSettings(argc, argv, settings, output);
     if (code >= 0) {
         return code;
     }
@@ -161,7 +166,7 @@ int run(int argc, char** argv) {
     std::string problem;
     if (!quenopt::runParse(table, settings.flags, settings.arguments, outcome, problem)) {
         std::cerr << "quenopt: " << problem << '\n';
-        return kExitInternal;
+        return quenopt::kExitInternal;
     }
     if (outcome.code != 0) {
         if (outcome.error.empty()) {
@@ -172,25 +177,30 @@ int run(int argc, char** argv) {
     } else if (outcome.help) {
         std::cerr << outcome.helpText;
     }
-    quenopt::writeOutcome(std::cout, settings.format, outcome);
-    std::cout.flush();
-    if (!std::cout) {
-        std::cerr << "quenopt: cannot write to standard output\n";
-        return kExitInternal;
-    }
-    if (outcome.code < 0 || outcome.code > 255) {
-        return kExitInternal;
-    }
-    return outcome.code;
+    std::ostringstream script;
+    quenopt::writeOutcome(script, settings.format, outcome);
+    output = script.str();
+    return quenopt::exitStatus(outcome);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    quenopt::installFailClosed();
     try {
-        return run(argc, argv);
+        std::string output;
+        int const code = run(argc, argv, output);
+        if (code != 0 && output.empty()) {
+            output = quenopt::exitCommand(code);
+        }
+        std::cerr.flush();
+        if (!quenopt::writeOutput(output)) {
+            quenopt::failClosed("cannot write to standard output");
+        }
+        return code;
     } catch (std::exception const& failure) {
-        std::cerr << "quenopt: " << failure.what() << '\n';
-        return kExitInternal;
+        quenopt::failClosed(failure.what());
+    } catch (...) {
+        quenopt::failClosed("internal failure");
     }
 }

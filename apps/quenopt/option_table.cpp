@@ -1,10 +1,12 @@
 #include "option_table.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
-#include <map>
+#include <unordered_map>
+#include <utility>
 
 namespace quenopt {
 
@@ -191,8 +193,8 @@ bool convertValue(TableOption const& option, std::string const& text, tarvo2::va
 
 // Everything the checks of later lines need to know about earlier ones.
 struct TableState {
-    std::map<std::string, int> names;      // command-line names (with "no-" forms of booleans) -> line
-    std::map<std::string, int> variables;  // shell variables -> line
+    std::unordered_map<std::string, int> names;      // command-line names (with "no-" forms of booleans) -> line
+    std::unordered_map<std::string, int> variables;  // shell variables -> line
     int positionalLine = 0;
 };
 
@@ -374,32 +376,37 @@ private:
         struct Claim {
             std::string name;
             char const* field;
-            std::string shown;  // how messages name it
+            std::string const* negationOf;  // the name a "no-" form negates, or null
+            // How messages name it; built only for a message.
+            std::string shown() const {
+                std::string text = "name '" + name + "'";
+                return negationOf == nullptr ? text : text + " (the negation of '" + *negationOf + "')";
+            }
         };
         std::vector<Claim> claims;
         for (std::string const& name : option.names) {
-            claims.push_back({name, "names", "name '" + name + "'"});
+            claims.push_back({name, "names", nullptr});
         }
         for (std::string const& name : option.synonyms) {
-            claims.push_back({name, "attributes", "name '" + name + "'"});
+            claims.push_back({name, "attributes", nullptr});
         }
         std::size_t own = claims.size();
         if (option.kind == tarvo2::vt_bool) {
             for (std::size_t i = 0; i < own; ++i) {
-                std::string negated = "no-" + claims[i].name;
-                claims.push_back(
-                    {negated, claims[i].field, "name '" + negated + "' (the negation of '" + claims[i].name + "')"});
+                std::string const& name =
+                    i < option.names.size() ? option.names[i] : option.synonyms[i - option.names.size()];
+                claims.push_back({"no-" + name, claims[i].field, &name});
             }
         }
-        std::map<std::string, int> mine;
-        for (Claim const& claim : claims) {
-            auto found = m_state.names.find(claim.name);
+        for (auto claim = claims.begin(); claim != claims.end(); ++claim) {
+            auto found = m_state.names.find(claim->name);
             if (found != m_state.names.end()) {
-                return fail(claim.field, claim.shown + " is already taken by line " + std::to_string(found->second),
+                return fail(claim->field, claim->shown() + " is already taken by line " + std::to_string(found->second),
                             error);
             }
-            if (!mine.emplace(claim.name, m_line).second) {
-                return fail(claim.field, claim.shown + " is given twice", error);
+            auto same = [&](Claim const& other) { return other.name == claim->name; };
+            if (std::any_of(claims.begin(), claim, same)) {
+                return fail(claim->field, claim->shown() + " is given twice", error);
             }
         }
         for (std::string const& variable : {option.variable, option.variable + "_count"}) {
@@ -410,7 +417,9 @@ private:
                             error);
             }
         }
-        m_state.names.insert(mine.begin(), mine.end());
+        for (Claim const& claim : claims) {
+            m_state.names.emplace(claim.name, m_line);
+        }
         m_state.variables.emplace(option.variable, m_line);
         m_state.variables.emplace(option.variable + "_count", m_line);
         if (option.positional) {
@@ -469,10 +478,20 @@ TableOption const* OptionTable::positionalOption() const {
 
 bool readTable(std::istream& in, std::string const& source, std::string const& prefix, OptionTable& table,
                std::string& error) {
+    std::vector<std::string> lines;
+    for (std::string text; std::getline(in, text);) {
+        lines.push_back(std::move(text));
+    }
+    if (in.bad()) {
+        error = source + ": read error";
+        return false;
+    }
+    // Sized once: growing them line by line costs more than the lookups.
     TableState state;
-    std::string text;
+    state.names.reserve(2 * lines.size());
+    state.variables.reserve(2 * lines.size());
     int line = 0;
-    while (std::getline(in, text)) {
+    for (std::string& text : lines) {
         ++line;
         if (!text.empty() && text.back() == '\r') {
             text.pop_back();
@@ -486,11 +505,7 @@ bool readTable(std::istream& in, std::string const& source, std::string const& p
         if (!reader.read(content, option, error)) {
             return false;
         }
-        table.options.push_back(option);
-    }
-    if (in.bad()) {
-        error = source + ": read error";
-        return false;
+        table.options.push_back(std::move(option));
     }
     return true;
 }

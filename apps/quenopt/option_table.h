@@ -8,6 +8,7 @@
 
 #include <quen_3_1/quen.h>
 
+#include <deque>
 #include <istream>
 #include <string>
 #include <vector>
@@ -34,7 +35,7 @@ struct TableOption {
 };
 
 struct OptionTable {
-    std::vector<TableOption> options;
+    std::deque<TableOption> options;  // a deque: no copies of options as it grows
 
     // The option that answers --help: kind none with "help" among its names.
     TableOption const* helpOption() const;

@@ -1,6 +1,7 @@
 #include "output_formats.h"
 
 #include "escaping.h"
+#include "fail_closed.h"
 
 namespace quenopt {
 
@@ -8,7 +9,7 @@ namespace {
 
 void writeShell(std::ostream& out, bool arrays, ParseOutcome const& outcome) {
     if (outcome.code != 0) {
-        out << "exit " << outcome.code << '\n';
+        out << exitCommand(exitStatus(outcome));
         return;
     }
     if (outcome.help) {
@@ -81,6 +82,15 @@ void writeJson(std::ostream& out, ParseOutcome const& outcome) {
 }
 
 }  // namespace
+
+int exitStatus(ParseOutcome const& outcome) {
+    if (outcome.code == 0) {
+        return 0;
+    }
+    return outcome.code > 0 && outcome.code <= 255 ? outcome.code : kExitInternal;
+}
+
+std::string exitCommand(int status) { return "exit " + std::to_string(status) + "\n"; }
 
 bool formatFromName(std::string const& name, Format& format) {
     if (name == "sh") {

@@ -3,8 +3,13 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <iostream>
+#include <iterator>
+#include <utility>
+
+#include "fail_closed.h"
 
 namespace quenopt {
 
@@ -22,6 +27,7 @@ public:
         std::fflush(stdout);
         m_saved = dup(1);
         if (m_saved >= 0) {
+            setScriptDescriptor(m_saved);
             dup2(2, 1);
         }
     }
@@ -32,6 +38,7 @@ public:
         std::fflush(stdout);
         if (m_saved >= 0) {
             dup2(m_saved, 1);
+            setScriptDescriptor(1);
             close(m_saved);
         }
     }
@@ -80,11 +87,16 @@ void registerOption(quen_3_1::IParser& parser, TableOption const& option) {
     }
 }
 
-// True when a value numbered `sequence` belongs to occurrence `index`: values
-// follow their occurrence's number and come before the next occurrence's.
-bool belongsTo(std::vector<int> const& occurrences, std::size_t index, int sequence) {
-    int end = index + 1 < occurrences.size() ? occurrences[index + 1] : kNone;
-    return sequence >= occurrences[index] && sequence < end;
+bool bySequence(OptionValue const& a, OptionValue const& b) { return a.sequence < b.sequence; }
+
+// The values of occurrence `index` among `values`, sorted by sequence number:
+// values follow their occurrence's number and come before the next occurrence's.
+std::pair<std::vector<OptionValue>::const_iterator, std::vector<OptionValue>::const_iterator> valuesOf(
+    std::vector<OptionValue> const& values, std::vector<int> const& occurrences, std::size_t index) {
+    int const end = index + 1 < occurrences.size() ? occurrences[index + 1] : kNone;
+    auto first = std::lower_bound(values.begin(), values.end(), OptionValue{"", occurrences[index]}, bySequence);
+    auto last = std::lower_bound(first, values.end(), OptionValue{"", end}, bySequence);
+    return {first, last};
 }
 
 // Integers are written in plain decimal whatever form the user chose (hex,
@@ -145,16 +157,18 @@ OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& o
     }
     // Only an empty positional argument makes an occurrence without values;
     // it stands for one empty value.
+    std::stable_sort(outcome.values.begin(), outcome.values.end(), bySequence);
+    std::vector<OptionValue> empty;
     for (std::size_t i = 0; i < outcome.occurrences.size(); ++i) {
-        bool hasValue = std::any_of(outcome.values.begin(), outcome.values.end(), [&](OptionValue const& value) {
-            return belongsTo(outcome.occurrences, i, value.sequence);
-        });
-        if (!hasValue) {
-            outcome.values.push_back({"", outcome.occurrences[i]});
+        auto range = valuesOf(outcome.values, outcome.occurrences, i);
+        if (range.first == range.second) {
+            empty.push_back({"", outcome.occurrences[i]});
         }
     }
-    std::stable_sort(outcome.values.begin(), outcome.values.end(),
-                     [](OptionValue const& a, OptionValue const& b) { return a.sequence < b.sequence; });
+    std::size_t const given = outcome.values.size();
+    outcome.values.insert(outcome.values.end(), empty.begin(), empty.end());
+    std::inplace_merge(outcome.values.begin(), outcome.values.begin() + static_cast<std::ptrdiff_t>(given),
+                       outcome.values.end(), bySequence);
     outcome.count = outcome.values.size();
     return outcome;
 }
@@ -170,15 +184,12 @@ std::vector<std::string> positionalArguments(OptionOutcome const& outcome) {
     char split = option.hasSplit ? option.split : ',';
     for (std::size_t i = 0; i < outcome.occurrences.size(); ++i) {
         std::string argument;
-        bool first = true;
-        for (OptionValue const& value : outcome.values) {
-            if (belongsTo(outcome.occurrences, i, value.sequence)) {
-                if (!first && split != 0) {
-                    argument += split;
-                }
-                argument += value.text;
-                first = false;
+        auto range = valuesOf(outcome.values, outcome.occurrences, i);
+        for (auto value = range.first; value != range.second; ++value) {
+            if (value != range.first && split != 0) {
+                argument += split;
             }
+            argument += value->text;
         }
         arguments.push_back(argument);
     }
@@ -221,23 +232,25 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
         std::vector<OptionOutcome> given;
         std::vector<OptionOutcome> others;
         TableOption const* positional = table.positionalOption();
+        TableOption const* help = table.helpOption();
         std::vector<std::string> positionalTaken;
         for (TableOption const& option : table.options) {
             OptionOutcome collected = collectOption(*holder.result, option);
             if (&option == positional) {
                 positionalTaken = positionalArguments(collected);
             }
-            if (&option == table.helpOption() && !collected.occurrences.empty() && outcome.code == 0) {
+            if (&option == help && !collected.occurrences.empty() && outcome.code == 0) {
                 outcome.help = true;
                 outcome.helpText = holder.parser->getDescription(false);
             }
-            (collected.occurrences.empty() ? others : given).push_back(collected);
+            (collected.occurrences.empty() ? others : given).push_back(std::move(collected));
         }
         std::stable_sort(given.begin(), given.end(), [](OptionOutcome const& a, OptionOutcome const& b) {
             return a.occurrences.front() < b.occurrences.front();
         });
-        outcome.options = given;
-        outcome.options.insert(outcome.options.end(), others.begin(), others.end());
+        outcome.options = std::move(given);
+        outcome.options.insert(outcome.options.end(), std::make_move_iterator(others.begin()),
+                               std::make_move_iterator(others.end()));
 
         std::vector<std::string> afterTerminator;
         char const* text = nullptr;

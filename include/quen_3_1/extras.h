@@ -17,6 +17,7 @@ namespace quen_3_1 {
 QUEN_API char const* completionScript(IParser* parser, char const* program, char const* shell);
 
 // Writes to `out` up to `max` visible names nearest to `typed`, best first; returns the count (0 for nulls).
+// Only the first 64 bytes of `typed` and of each name are compared, so the work per name is bounded.
 // The names belong to the parser and stay valid until the parser is destroyed.
 QUEN_API int suggestNames(IParser* parser, char const* typed, char const** out, int max);
 

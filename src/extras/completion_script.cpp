@@ -76,7 +76,7 @@ _quen_files_@ID@() {
 _quen_complete_@ID@() {
 @DATA@
     local cur=${COMP_WORDS[COMP_CWORD]} cword=$COMP_CWORD
-    local word option='' value='' lead='' next='' kind='' form=-- i ref
+    local word option='' value='' lead='' next='' kind='' form=-- i ref quoted
     local -a best=()
     COMPREPLY=()
     # After the terminator every word is a plain argument.
@@ -141,15 +141,18 @@ _quen_complete_@ID@() {
     elif [[ $cur == -?* && $cur != -- ]]; then
         form=- word=${cur:1}
     fi
+    # Names are escaped as values are: readline inserts replies as they stand.
     for i in "${!names[@]}"; do
         if [[ ${names[i]} == "$word"* ]]; then
-            COMPREPLY+=("$form${names[i]}")
+            printf -v quoted '%q' "$form${names[i]}"
+            COMPREPLY+=("$quoted")
         fi
     done
     if ((${#COMPREPLY[@]} == 0)); then
         _quen_best_@ID@ "$word"
         for i in "${best[@]}"; do
-            COMPREPLY+=("$form${names[i]}")
+            printf -v quoted '%q' "$form${names[i]}"
+            COMPREPLY+=("$quoted")
         done
     fi
     return 0

@@ -16,38 +16,43 @@ namespace quen_3_1 {
 
 namespace {
 
-// The table of edit costs between every prefix of `a` and every prefix of
-// `b`, with neighbour swaps counted as one edit.
-std::vector<std::vector<std::size_t>> editTable(std::string const& a, std::string const& b) {
-    std::vector<std::vector<std::size_t>> d(a.size() + 1, std::vector<std::size_t>(b.size() + 1, 0));
-    for (std::size_t i = 0; i <= a.size(); ++i) {
-        d[i][0] = i;
-    }
+// The last row of the table of edit costs between every prefix of `a` and
+// every prefix of `b`, with neighbour swaps counted as one edit. A swap looks
+// two rows back, so three rows are kept, whatever the lengths.
+std::vector<std::size_t> lastEditRow(std::string const& a, std::string const& b) {
+    std::vector<std::size_t> twoBack(b.size() + 1, 0);
+    std::vector<std::size_t> previous(b.size() + 1, 0);
+    std::vector<std::size_t> current(b.size() + 1, 0);
     for (std::size_t j = 0; j <= b.size(); ++j) {
-        d[0][j] = j;
+        current[j] = j;
     }
     for (std::size_t i = 1; i <= a.size(); ++i) {
+        twoBack.swap(previous);
+        previous.swap(current);
+        current[0] = i;
         for (std::size_t j = 1; j <= b.size(); ++j) {
-            std::size_t const substitution = d[i - 1][j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
-            d[i][j] = std::min({d[i - 1][j] + 1, d[i][j - 1] + 1, substitution});
+            std::size_t const substitution = previous[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            current[j] = std::min({previous[j] + 1, current[j - 1] + 1, substitution});
             if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1]) {
-                d[i][j] = std::min(d[i][j], d[i - 2][j - 2] + 1);
+                current[j] = std::min(current[j], twoBack[j - 2] + 1);
             }
         }
     }
-    return d;
+    return current;
 }
 
 }  // namespace
 
-std::size_t editDistance(std::string const& a, std::string const& b) { return editTable(a, b)[a.size()][b.size()]; }
+std::size_t editDistance(std::string const& a, std::string const& b) { return lastEditRow(a, b)[b.size()]; }
 
 std::size_t abbreviationDistance(std::string const& typed, std::string const& full) {
-    std::vector<std::size_t> const last = editTable(typed, full)[typed.size()];
+    std::vector<std::size_t> const last = lastEditRow(typed, full);
     return *std::min_element(last.begin(), last.end());
 }
 
-std::size_t nameDistance(std::string const& typed, std::string const& candidate) {
+std::size_t nameDistance(std::string const& typedText, std::string const& candidateText) {
+    std::string const typed = typedText.substr(0, kComparedLength);
+    std::string const candidate = candidateText.substr(0, kComparedLength);
     std::size_t distance = editDistance(typed, candidate);
     DecomposedName const typedParts(typed);
     DecomposedName const candidateParts(candidate);
@@ -77,7 +82,7 @@ std::vector<std::string> closestNames(RegisteredOptionStorage const& storage, st
     if (typed.empty() || max == 0) {
         return names;
     }
-    std::size_t const reach = typed.size() / 3;
+    std::size_t const reach = std::min(typed.size(), kComparedLength) / 3;
     std::vector<std::pair<std::size_t, std::string>> near;
     std::set<std::string> seen;
     for (VisibleName const& candidate : visibleNames(storage)) {

@@ -17,7 +17,12 @@ std::size_t editDistance(std::string const& a, std::string const& b);
 // nothing, a mistyped one only its mistakes.
 std::size_t abbreviationDistance(std::string const& typed, std::string const& full);
 
-// How far `typed` is from `candidate`: the smaller of the distance between
+// Names and typed texts are compared on this many leading bytes only, so that
+// the work per name stays bounded whatever their lengths; real names are far
+// shorter.
+std::size_t const kComparedLength = 64;
+
+// How far `typed` is from `candidate` (each cut to kComparedLength bytes): the smaller of the distance between
 // the whole names and, when both have as many '-'-separated parts, the sum of
 // the parts' abbreviation distances.
 std::size_t nameDistance(std::string const& typed, std::string const& candidate);
@@ -28,8 +33,8 @@ std::string typedOptionName(std::string const& argument);
 
 // At most `max` visible names within reach of `typed`, nearest first, ties in
 // the recognizer's candidate order. A name is within reach when its distance
-// is at most a third of the typed name's length, rounded down: a short typed
-// name would otherwise be one edit from the first letter of every name.
+// is at most a third of the typed name's compared length, rounded down: a
+// short typed name would otherwise be one edit from the first letter of every name.
 std::vector<std::string> closestNames(RegisteredOptionStorage const& storage, std::string const& typed,
                                       std::size_t max);
 

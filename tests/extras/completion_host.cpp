@@ -1,12 +1,31 @@
 // A host whose options cover every way a value completes; it prints its
 // completion script for the shell named by its first argument. With
 // "without-positional" as second argument it registers no positional option,
-// so that plain words complete as option names.
+// so that plain words complete as option names; with "hostile" it registers
+// only names that a shell would run as commands if they reached the command
+// line unquoted.
 #include <quen_3_1/extras.h>
 #include <quen_3_1/quen.h>
 
 #include <cstdio>
 #include <cstring>
+
+namespace {
+
+// Prints the script for `shell` and destroys the parser.
+int printScript(quen_3_1::IParser* parser, char const* shell) {
+    char const* script = quen_3_1::completionScript(parser, "quen-sample", shell);
+    if (script == nullptr) {
+        std::fprintf(stderr, "no completion script for shell '%s'\n", shell);
+        parser->destroy();
+        return 1;
+    }
+    std::fputs(script, stdout);
+    parser->destroy();
+    return 0;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     if (argc < 2) {
@@ -14,9 +33,17 @@ int main(int argc, char** argv) {
         return 2;
     }
     bool const positional = argc < 3 || std::strcmp(argv[2], "without-positional") != 0;
+    bool const hostile = argc >= 3 && std::strcmp(argv[2], "hostile") == 0;
     quen_3_1::IParser* parser = nullptr;
     if (quen_3_1::createParser(&parser, 0) != 0) {
         return 3;
+    }
+    if (hostile) {
+        parser->option("a$(touch${IFS}marker)", "Substitution.", tarvo2::vt_empty, "general");
+        parser->option("b`touch${IFS}marker`", "Old-style substitution.", tarvo2::vt_empty, "general");
+        parser->option("c'$(touch${IFS}marker)'", "Quotes.", tarvo2::vt_empty, "general");
+        parser->option("d;touch${IFS}marker;", "Separators.", tarvo2::vt_bool, "general");
+        return printScript(parser, argv[1]);
     }
     parser->option("log-file", "Where the log goes.", tarvo2::vt_str, "general:General options");
     parser->option("log-format", "How log lines look.", tarvo2::vt_str, "general")
@@ -36,13 +63,5 @@ int main(int argc, char** argv) {
     if (positional) {
         parser->option("files", "Files to copy.", tarvo2::vt_str, "copy")->positional();
     }
-    char const* script = quen_3_1::completionScript(parser, "quen-sample", argv[1]);
-    if (script == nullptr) {
-        std::fprintf(stderr, "no completion script for shell '%s'\n", argv[1]);
-        parser->destroy();
-        return 1;
-    }
-    std::fputs(script, stdout);
-    parser->destroy();
-    return 0;
+    return printScript(parser, argv[1]);
 }

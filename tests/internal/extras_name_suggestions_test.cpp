@@ -125,4 +125,19 @@ TEST_F(NameSuggestions, ReachGrowsWithTheTypedLength) {
     EXPECT_EQ(closest("lgo-feil-x"), Names{});
 }
 
+TEST(EditDistance, OnlyTheLeadingBytesAreCompared) {
+    std::string const head(quen_3_1::kComparedLength, 'x');
+    EXPECT_EQ(quen_3_1::nameDistance(head + "abc", head + "xyz"), 0U);
+    EXPECT_EQ(quen_3_1::nameDistance(head + std::string(1 << 20, 'a'), head), 0U);
+    EXPECT_EQ(quen_3_1::nameDistance(std::string(1 << 20, 'a'), std::string(1 << 20, 'b')), quen_3_1::kComparedLength);
+}
+
+TEST_F(NameSuggestions, MegabyteNameAndTypedTextAreComparedOnTheirHeads) {
+    std::string const huge(1 << 20, 'q');
+    parser.option(huge.c_str(), "", tarvo2::vt_str, "g");
+    EXPECT_EQ(closest(huge), (Names{huge}));
+    EXPECT_EQ(closest(std::string(quen_3_1::kComparedLength, 'q') + "-and-more"), (Names{huge}));
+    EXPECT_EQ(closest(std::string(1 << 20, 'z')), Names{});
+}
+
 }  // namespace
