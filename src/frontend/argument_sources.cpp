@@ -21,69 +21,69 @@ ParseResult* asParseResult(IParseResult* result) { return dynamic_cast<ParseResu
 // Defaults are applied before anything else; an exception from that step is
 // not caught, as hosts have always seen it.
 int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
-    if (int const spent = refuseWhenNumbersSpent()) {
-        return spent;
+    if (Status const spent = refuseWhenNumbersSpent(); spent != Status::Ok) {
+        return codeOf(spent);
     }
     ParseResult* const parseResult = asParseResult(result);
     if (parseResult != nullptr) {
         std::string error;
-        int const code = parseResult->applyDefault(m_storage, error);
-        if (code != 0) {
+        Status const applied = parseResult->applyDefault(m_storage, error);
+        if (applied != Status::Ok) {
             setLastError(error);
-            return code;
+            return codeOf(applied);
         }
     }
     if (argc <= 1) {
         return 0;
     }
     if (argv == nullptr) {
-        return 3;
+        return codeOf(Status::Refused);
     }
     try {
-        return parseVector(std::vector<std::string>(argv + 1, argv + argc), result);
+        return codeOf(parseVector(std::vector<std::string>(argv + 1, argv + argc), result));
     } catch (std::exception const&) {
-        return 3;
+        return codeOf(Status::Refused);
     }
 }
 
 // Unlike parseArgsVector, no defaults are applied: a text adds to what a
 // command line already gave.
 int BasicParser::parseStream(char const* text, IParseResult* result) {
-    if (int const spent = refuseWhenNumbersSpent()) {
-        return spent;
+    if (Status const spent = refuseWhenNumbersSpent(); spent != Status::Ok) {
+        return codeOf(spent);
     }
     try {
-        return parseVector(argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text)), result);
+        return codeOf(parseVector(argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text)), result));
     } catch (std::exception const&) {
-        return 3;
+        return codeOf(Status::Refused);
     }
 }
 
 // Once the sequence numbers are spent every parse fails alike, whether or not
 // it would have needed one.
-int BasicParser::refuseWhenNumbersSpent() {
+Status BasicParser::refuseWhenNumbersSpent() {
     if (!IArgumentParser::numbersExhausted()) {
-        return 0;
+        return Status::Ok;
     }
     setLastError(recognizer_messages::numbersExhausted());
-    return IArgumentParser::kNumbersExhaustedCode;
+    return Status::NumbersExhausted;
 }
 
-int BasicParser::parseVector(std::vector<std::string> args, IParseResult* result) {
+Status BasicParser::parseVector(std::vector<std::string> args, IParseResult* result) {
     try {
         std::string error;
         ArgumentList list(std::move(args));
-        int code = parse("--", list, result, error);
-        if (code == 0) {
-            code = collectNonparsingArguments(list, asParseResult(result), error);
+        Status status = parse("--", list, result, error);
+        if (status == Status::Ok) {
+            status = collectNonparsingArguments(list, asParseResult(result), error);
         }
-        if (code != 0) {
+        if (status != Status::Ok) {
             setLastError(error);
         }
-        return code;
+        return status;
     } catch (std::exception const&) {
         setLastError(frontend_messages::unidentifiedProblem());
-        return 4;
+        return Status::Unidentified;
     }
 }
 

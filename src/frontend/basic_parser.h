@@ -9,6 +9,7 @@
 #include "options/registered_option_storage.h"
 #include "quen_3_1/quen.h"
 #include "recognizers/argument_list.h"
+#include "recognizers/status.h"
 #include "values/garbage.h"
 
 namespace quen_3_1 {
@@ -37,26 +38,26 @@ public:
     bool removeHandler(EventHandler* handler) override;
     ~BasicParser() override = default;
 
-    // Runs recognition, then keeps what follows the terminator. Returns 0 or
-    // an error code with the text recorded as the last error.
-    int parseVector(std::vector<std::string> args, IParseResult* result);
+    // Runs recognition, then keeps what follows the terminator. Anything but
+    // Ok comes with the text recorded as the last error.
+    Status parseVector(std::vector<std::string> args, IParseResult* result);
     // Lets the recognizers bid for each leading argument until the terminator.
-    virtual int parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error);
+    virtual Status parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error);
 
     void setLastError(std::string const& text);
     // Stores every argument after the terminator that recognition stopped at
     // as a plain argument; with FlagPositionalAfterTerminator also offers it
     // to the positional option.
-    int collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error);
+    Status collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error);
 
     RegisteredOptionStorage const& storage() const { return m_storage; }
     // The keeper of every text this parser hands out.
     Garbage& keeper() { return m_garbage; }
 
 private:
-    // 0 while sequence numbers are left; else their code, with the last error set.
-    int refuseWhenNumbersSpent();
-    int offerToPositional(std::string const& argument, ParseResult* result, std::string& error);
+    // Ok while sequence numbers are left; else NumbersExhausted, with the last error set.
+    Status refuseWhenNumbersSpent();
+    Status offerToPositional(std::string const& argument, ParseResult* result, std::string& error);
 
     RegisteredOptionStorage m_storage;
     Garbage m_garbage;

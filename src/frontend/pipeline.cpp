@@ -13,7 +13,7 @@
 
 namespace quen_3_1 {
 
-int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error) {
+Status BasicParser::parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error) {
     internal::quenLogEnabled = false;
     if (!args.empty() && args[0] == frontend_messages::traceSwitch()) {
         internal::quenLogEnabled = true;
@@ -34,9 +34,9 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
             }
         }
         if (chosen != 2) {
-            int const code = recognizers[chosen]->parse(args, findings[chosen], collector, m_storage, error);
-            if (code != 0) {
-                return code;
+            Status const status = recognizers[chosen]->parse(args, findings[chosen], collector, m_storage, error);
+            if (status != Status::Ok) {
+                return status;
             }
             continue;
         }
@@ -44,54 +44,54 @@ int BasicParser::parse(std::string const& terminator, ArgumentList& args, IParse
         bool const unknown = onUknownArgument(args[0].c_str());
         if ((m_flags & FlagUnknownIsError) != 0 && unknown) {
             error = frontend_messages::unknownOption(args[0]);
-            return 2;
+            return Status::Failed;
         }
         internal::trace("ignoring ", args[0]);
         args.popFront();
     }
-    return 0;
+    return Status::Ok;
 }
 
-int BasicParser::collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error) {
+Status BasicParser::collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error) {
     try {
         for (std::size_t i = 1; i < args.size(); ++i) {
             std::string const& argument = args[i];
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 error = recognizer_messages::numbersExhausted();
-                return IArgumentParser::kNumbersExhaustedCode;
+                return Status::NumbersExhausted;
             }
             if (result != nullptr) {
                 result->appendArgument(argument, number);
             }
             internal::trace("collectNonparsingArguments: stored argument: '", argument, "'");
             if ((m_flags & FlagPositionalAfterTerminator) != 0) {
-                int const code = offerToPositional(argument, result, error);
-                if (code != 0) {
-                    return code;
+                Status const status = offerToPositional(argument, result, error);
+                if (status != Status::Ok) {
+                    return status;
                 }
             }
         }
-        return 0;
+        return Status::Ok;
     } catch (std::exception const&) {
-        return 3;
+        return Status::Refused;
     }
 }
 
 // After the terminator even an argument beginning with '-' may fill the
 // positional option, so FlagNoHyphenPositional does not apply.
-int BasicParser::offerToPositional(std::string const& argument, ParseResult* result, std::string& error) {
+Status BasicParser::offerToPositional(std::string const& argument, ParseResult* result, std::string& error) {
     PositionalOptionsParser positional(this, &m_garbage, m_flags & ~FlagNoHyphenPositional);
     ArgumentList single(std::vector<std::string>{argument});
     Recognition found;
     bool const taken = positional.recognize(single, m_storage, found);
     internal::trace("collectNonparsingArguments: recognize result: ", taken ? 0 : 1, ", message: ", error);
     if (!taken) {
-        return 0;
+        return Status::Ok;
     }
-    int const code = positional.parse(single, found, result, m_storage, error);
-    internal::trace("collectNonparsingArguments: parse result: ", code, ", message: ", error);
-    return code;
+    Status const status = positional.parse(single, found, result, m_storage, error);
+    internal::trace("collectNonparsingArguments: parse result: ", codeOf(status), ", message: ", error);
+    return status;
 }
 
 }  // namespace quen_3_1

@@ -63,8 +63,8 @@ bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionSto
     return true;
 }
 
-int AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
-                              RegisteredOptionStorage const& storage, std::string& message) {
+Status AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                                 RegisteredOptionStorage const& storage, std::string& message) {
     std::string const& argument = args[0];
     internal::trace(m_name, ": parsing argument '", argument, "'");
     if (!found.tied.empty()) {
@@ -73,7 +73,7 @@ int AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IRes
         std::size_t const start = argument[1] == '-' ? 2 : 1;
         message = recognizer_messages::ambiguousOption(argument.substr(start, found.nameEnd - start), tokenPart(args),
                                                        listCandidates(storage.names(), found.tied));
-        return 2;
+        return Status::Failed;
     }
     OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": detected option: '", option.primaryName(), "'");
@@ -82,47 +82,47 @@ int AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IRes
         value = argument.substr(found.valueStart);
         internal::trace(m_name, ": value from the same argument taken: '", value, "'");
     }
-    int const code = decideValue(args, found, option, value, message);
-    if (code != 0) {
-        return code;
+    Status const decided = decideValue(args, found, option, value, message);
+    if (decided != Status::Ok) {
+        return decided;
     }
     m_handler->onOptionParse(option.primaryName().c_str());
     internal::trace(m_name, ": sent event on option parsed");
-    int const stored = parseValueAndAddOption(value, message, option, args, collector);
-    if (stored != 0) {
+    Status const stored = parseValueAndAddOption(value, message, option, args, collector);
+    if (stored != Status::Ok) {
         return stored;
     }
     for (std::size_t i = 0; i < found.arguments; ++i) {
         internal::trace(m_name, ": removing argument: '", args[0], "'");
         args.popFront();
     }
-    return 0;
+    return Status::Ok;
 }
 
 // No-value options refuse a value, booleans take "1"/"0" from the matched
 // name, and other kinds fall back to the next argument.
-int AbbreviationParser::decideValue(ArgumentList const& args, Recognition const& found, OptionDescription const& option,
-                                    std::string& value, std::string& message) {
+Status AbbreviationParser::decideValue(ArgumentList const& args, Recognition const& found,
+                                       OptionDescription const& option, std::string& value, std::string& message) {
     if (option.type() == tarvo2::vt_empty) {
         if (!value.empty()) {
             return fail(message, recognizer_messages::valueRefused(option.primaryName(), tokenPart(args)));
         }
-        return 0;
+        return Status::Ok;
     }
     if (option.type() != tarvo2::vt_bool) {
-        return found.arguments == 2 ? valueFromNextArgument(args, option, value, message) : 0;
+        return found.arguments == 2 ? valueFromNextArgument(args, option, value, message) : Status::Ok;
     }
     if (!value.empty()) {
         return fail(message, recognizer_messages::booleanForm(option.primaryName(), tokenPart(args)));
     }
     value = found.noForm ? "0" : "1";
-    return 0;
+    return Status::Ok;
 }
 
 // A next argument that begins with '-' is refused even when it is a negative
 // number: "--num=-5" is the way to give one.
-int AbbreviationParser::valueFromNextArgument(ArgumentList const& args, OptionDescription const& option,
-                                              std::string& value, std::string& message) {
+Status AbbreviationParser::valueFromNextArgument(ArgumentList const& args, OptionDescription const& option,
+                                                 std::string& value, std::string& message) {
     internal::trace(m_name, ": no value in the same argument, looking next");
     if (args.size() == 1) {
         return fail(message, recognizer_messages::valueRequired(option.primaryName(), tokenPart(args)));
@@ -135,7 +135,7 @@ int AbbreviationParser::valueFromNextArgument(ArgumentList const& args, OptionDe
     if (value.empty()) {
         return fail(message, recognizer_messages::valueRequired(option.primaryName(), tokenPart(args)));
     }
-    return 0;
+    return Status::Ok;
 }
 
 // formatTokenMessage of the argument being parsed.
@@ -144,10 +144,10 @@ std::string AbbreviationParser::tokenPart(ArgumentList const& args) {
     return formatTokenMessage(token);
 }
 
-int AbbreviationParser::fail(std::string& message, std::string text) {
+Status AbbreviationParser::fail(std::string& message, std::string text) {
     message = std::move(text);
     internal::trace(m_name, ": ", message);
-    return 2;
+    return Status::Failed;
 }
 
 }  // namespace quen_3_1

@@ -19,16 +19,16 @@ public:
     // Takes an argument of a unique best match and an ambiguous one alike,
     // so that parse reports the ambiguity.
     bool recognize(ArgumentList const& args, RegisteredOptionStorage const& storage, Recognition& found) override;
-    int parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
-              RegisteredOptionStorage const& storage, std::string& message) override;
+    Status parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                 RegisteredOptionStorage const& storage, std::string& message) override;
     int getPriority() override { return -10; }
 
 private:
-    int decideValue(ArgumentList const& args, Recognition const& found, OptionDescription const& option,
-                    std::string& value, std::string& message);
-    int valueFromNextArgument(ArgumentList const& args, OptionDescription const& option, std::string& value,
-                              std::string& message);
-    int fail(std::string& message, std::string text);
+    Status decideValue(ArgumentList const& args, Recognition const& found, OptionDescription const& option,
+                       std::string& value, std::string& message);
+    Status valueFromNextArgument(ArgumentList const& args, OptionDescription const& option, std::string& value,
+                                 std::string& message);
+    Status fail(std::string& message, std::string text);
     std::string tokenPart(ArgumentList const& args);
 
     BestNameMatch m_matcher;

@@ -26,8 +26,9 @@ IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, std::i
 
 std::string IArgumentParser::formatTokenMessage(std::string& token) { return recognizer_messages::inArgument(token); }
 
-int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
-                                            ArgumentList& args, IResultCollector* collector) {
+Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message,
+                                               OptionDescription const& option, ArgumentList& args,
+                                               IResultCollector* collector) {
     // The record and the pieces are reused from call to call; the collector copies what it keeps.
     OptionData& data = m_data;
     data.m_positions.clear();
@@ -47,9 +48,9 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
             splitAtSeparator(value, tokenizer, pieces);
             for (std::string& piece : pieces) {
                 internal::trace(m_name, ": value is: '", piece, "'");
-                int const code = addValue(piece, value, message, option, args, data);
-                if (code != 0) {
-                    return code;
+                Status const status = addValue(piece, value, message, option, args, data);
+                if (status != Status::Ok) {
+                    return status;
                 }
                 internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
                                 piece, "'");
@@ -57,9 +58,9 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
         } else {
             internal::trace(m_name, ": not using tokenizer");
             std::string whole = value;
-            int const code = addValue(whole, value, message, option, args, data);
-            if (code != 0) {
-                return code;
+            Status const status = addValue(whole, value, message, option, args, data);
+            if (status != Status::Ok) {
+                return status;
             }
         }
     }
@@ -67,24 +68,24 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
         collector->store(option, data);
     }
     internal::trace(m_name, ": stored option to result container.");
-    return 0;
+    return Status::Ok;
 }
 
-int IArgumentParser::refuseForWantOfNumbers(std::string& message) {
+Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
     message = recognizer_messages::numbersExhausted();
     internal::trace(m_name, ": ", message);
-    return kNumbersExhaustedCode;
+    return Status::NumbersExhausted;
 }
 
 // Validates one piece, numbers it, lets the handlers veto it and keeps it.
-int IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
-                              OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+Status IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
+                                 OptionDescription const& option, ArgumentList const& args, OptionData& data) {
     tarvo2::variant_t converted;
     std::string reason;
     if (!option.validate(piece, converted, reason)) {
         message = recognizer_messages::validationProblem(args[0], reason);
         internal::trace(m_name, ": ", message);
-        return 2;
+        return Status::Failed;
     }
     std::int32_t const number = takeNumber();
     if (number == kNoNumber) {
@@ -95,14 +96,14 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
         message = recognizer_messages::valueVetoed(whole, option.primaryName(), args[0]);
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
-        return 1;
+        return Status::Vetoed;
     }
     data.m_values.emplace_back();
     ValueEntry& entry = data.m_values.back();
     entry.first.first = piece;
     transferVariant(entry.first.second, event.m_value);
     entry.second = number;
-    return 0;
+    return Status::Ok;
 }
 
 }  // namespace quen_3_1

@@ -9,6 +9,7 @@
 #include "quen_3_1/quen.h"
 #include "recognizers/argument_list.h"
 #include "recognizers/recognition.h"
+#include "recognizers/status.h"
 #include "results/option_data.h"
 
 namespace quen_3_1 {
@@ -29,11 +30,10 @@ public:
 
     // True when this recognizer takes args[0], with `found` filled in.
     virtual bool recognize(ArgumentList const& args, RegisteredOptionStorage const& storage, Recognition& found) = 0;
-    // Consumes what recognize found: 0 stored, 1 a handler vetoed a value,
-    // 2 any other error, kNumbersExhaustedCode when no sequence number is
-    // left; on failure `message` is set and `args` unchanged.
-    virtual int parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
-                      RegisteredOptionStorage const& storage, std::string& message) = 0;
+    // Consumes what recognize found: Ok when stored; otherwise `message` is
+    // set and `args` unchanged.
+    virtual Status parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                         RegisteredOptionStorage const& storage, std::string& message) = 0;
     // " in argument: '<token>'", appended to error messages.
     virtual std::string formatTokenMessage(std::string& token);
     // The claimant with the greater priority parses.
@@ -53,14 +53,11 @@ public:
 
     static constexpr std::int32_t kNoNumber = 0x7fffffff;
     static constexpr std::int32_t kLastNumber = kNoNumber - 1;
-    // What an operation that needs a number answers when none is left.
-    static constexpr int kNumbersExhaustedCode = 5;
 
 protected:
-    // Splits, validates, announces and stores one value text of `option`:
-    // 0 stored, 1 vetoed by a handler, 2 validation failed, kNumbersExhaustedCode.
-    int parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
-                               ArgumentList& args, IResultCollector* collector);
+    // Splits, validates, announces and stores one value text of `option`.
+    Status parseValueAndAddOption(std::string& value, std::string& message, OptionDescription const& option,
+                                  ArgumentList& args, IResultCollector* collector);
 
     EventHandler* m_handler;
     std::string m_name;
@@ -71,10 +68,10 @@ private:
     OptionData m_data;
     std::vector<std::string> m_pieces;
 
-    // Sets the message and answers kNumbersExhaustedCode.
-    int refuseForWantOfNumbers(std::string& message);
-    int addValue(std::string& piece, std::string const& whole, std::string& message, OptionDescription const& option,
-                 ArgumentList const& args, OptionData& data);
+    // Sets the message and answers NumbersExhausted.
+    Status refuseForWantOfNumbers(std::string& message);
+    Status addValue(std::string& piece, std::string const& whole, std::string& message, OptionDescription const& option,
+                    ArgumentList const& args, OptionData& data);
 };
 
 }  // namespace quen_3_1

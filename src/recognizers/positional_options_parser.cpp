@@ -23,22 +23,22 @@ bool PositionalOptionsParser::recognize(ArgumentList const& args, RegisteredOpti
     return found.option != Recognition::npos;
 }
 
-int PositionalOptionsParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
-                                   RegisteredOptionStorage const& storage, std::string& message) {
+Status PositionalOptionsParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                                      RegisteredOptionStorage const& storage, std::string& message) {
     internal::trace(m_name, ": parsing argument '", args[0], "'");
     OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": option is '", option.primaryName(), "'");
     for (;;) {
         std::string value = args[0];
         m_handler->onOptionParse(option.primaryName().c_str());
-        int const code = parseValueAndAddOption(value, message, option, args, collector);
-        if (code != 0) {
-            return code;
+        Status const status = parseValueAndAddOption(value, message, option, args, collector);
+        if (status != Status::Ok) {
+            return status;
         }
         internal::trace(m_name, ": removing argument: '", args[0], "'");
         args.popFront();
         if (args.empty() || (m_flags & FlagPositionalRun) == 0) {
-            return 0;
+            return Status::Ok;
         }
     }
 }

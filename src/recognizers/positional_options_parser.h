@@ -15,8 +15,8 @@ public:
     PositionalOptionsParser(EventHandler* handler, Garbage* garbage, std::int32_t flags);
 
     bool recognize(ArgumentList const& args, RegisteredOptionStorage const& storage, Recognition& found) override;
-    int parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
-              RegisteredOptionStorage const& storage, std::string& message) override;
+    Status parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
+                 RegisteredOptionStorage const& storage, std::string& message) override;
     int getPriority() override { return -100; }
 };
 

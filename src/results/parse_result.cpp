@@ -137,7 +137,7 @@ void ParseResult::point(NameEntry& entry, std::size_t record) {
 
 // Names first seen here share one empty record, so that the option's first
 // store appends to one record.
-int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& message) {
+Status ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& message) {
     for (std::size_t i = 0; i < storage.size(); ++i) {
         OptionDescription const& option = storage.at(i);
         if (option.type() == tarvo2::vt_empty || !option.hasDefault()) {
@@ -148,7 +148,7 @@ int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& mes
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 message = recognizer_messages::numbersExhausted();
-                return IArgumentParser::kNumbersExhaustedCode;
+                return Status::NumbersExhausted;
             }
             auto const placed = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()});
             NameEntry& entry = placed.first->second;
@@ -162,7 +162,7 @@ int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& mes
             kept.second = number;
         }
     }
-    return 0;
+    return Status::Ok;
 }
 
 void ParseResult::appendArgument(std::string const& text, std::int32_t number) {

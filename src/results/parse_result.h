@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "quen_3_1/quen.h"
+#include "recognizers/status.h"
 #include "results/option_data.h"
 #include "results/result_collector.h"
 #include "values/garbage.h"
@@ -42,9 +43,9 @@ public:
     // the name is listed. Returns 0.
     int store(OptionDescription const& option, OptionData const& data) override;
     // Sets the default entry of every option that has one, one sequence number
-    // per name. Returns 0, or the code and message of IArgumentParser for
-    // spent sequence numbers (the defaults set before stay).
-    int applyDefault(RegisteredOptionStorage& storage, std::string& message);
+    // per name. NumbersExhausted, with `message` set, when the numbers run
+    // out; the defaults set before stay.
+    Status applyDefault(RegisteredOptionStorage& storage, std::string& message);
     // Keeps a plain argument with its sequence number.
     void appendArgument(std::string const& text, std::int32_t number);
 

@@ -44,9 +44,10 @@ public:
                    quen_3_1::Recognition& /*found*/) override {
         return false;
     }
-    int parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/, quen_3_1::IResultCollector* /*collector*/,
-              RegisteredOptionStorage const& /*storage*/, std::string& /*message*/) override {
-        return 2;
+    quen_3_1::Status parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/,
+                           quen_3_1::IResultCollector* /*collector*/, RegisteredOptionStorage const& /*storage*/,
+                           std::string& /*message*/) override {
+        return quen_3_1::Status::Failed;
     }
     int getPriority() override { return 0; }
 
@@ -67,9 +68,10 @@ public:
                    quen_3_1::Recognition& /*found*/) override {
         return true;
     }
-    int parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/, quen_3_1::IResultCollector* /*collector*/,
-              RegisteredOptionStorage const& /*storage*/, std::string& /*message*/) override {
-        return 0;
+    quen_3_1::Status parse(ArgumentList& /*args*/, quen_3_1::Recognition const& /*found*/,
+                           quen_3_1::IResultCollector* /*collector*/, RegisteredOptionStorage const& /*storage*/,
+                           std::string& /*message*/) override {
+        return quen_3_1::Status::Ok;
     }
     int getPriority() override { return -1; }
 
@@ -146,7 +148,8 @@ protected:
 
     int run(std::string value, OptionDescription const& option, std::string const& argument) {
         ArgumentList args(std::vector<std::string>{argument, "--after"});
-        int const code = m_recognizer->parseValueAndAddOption(value, m_message, option, args, m_collector);
+        int const code =
+            quen_3_1::codeOf(m_recognizer->parseValueAndAddOption(value, m_message, option, args, m_collector));
         // The routine never consumes arguments.
         EXPECT_EQ(args.size(), 2u);
         EXPECT_EQ(args[0], argument);

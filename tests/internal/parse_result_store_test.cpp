@@ -153,7 +153,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultNumbersEveryNameOnce) {
     m_storage.option("name", "A name", tarvo2::vt_str, "g")->defaultValue(tarvo2::variant_t("x.log"));
     std::string message = "untouched";
     std::int32_t const before = IArgumentParser::m_idx;
-    EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
+    EXPECT_EQ(quen_3_1::codeOf(m_result.applyDefault(m_storage, message)), 0);
     EXPECT_EQ(message, "untouched");
     EXPECT_EQ(IArgumentParser::m_idx, before + 3);
 
@@ -179,7 +179,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultRendersThroughTheOptionsKind) {
     m_storage.option("ratio", "A ratio", tarvo2::vt_double, "g")->defaultValue(tarvo2::variant_t(1234567.0));
     m_storage.option("mask", "A mask", tarvo2::vt_uint64, "g")->defaultValue(tarvo2::variant_t(0xffULL));
     std::string message;
-    EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
+    EXPECT_EQ(quen_3_1::codeOf(m_result.applyDefault(m_storage, message)), 0);
     EXPECT_EQ(at("fast").m_default.first.first, "1");
     // The value is a copy of the default as given, not converted.
     EXPECT_EQ(at("fast").m_default.first.second.m_type, tarvo2::vt_int);
@@ -195,7 +195,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultSkipsValuelessOptionsAndOptionsWithoutD
     m_storage.option("level", "A level", tarvo2::vt_int, "g")->defaultValue(tarvo2::variant_t(2));
     std::string message;
     std::int32_t const before = IArgumentParser::m_idx;
-    EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
+    EXPECT_EQ(quen_3_1::codeOf(m_result.applyDefault(m_storage, message)), 0);
     EXPECT_EQ(IArgumentParser::m_idx, before + 1);
     EXPECT_FALSE(has("quiet"));
     EXPECT_FALSE(has("q"));
@@ -212,7 +212,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultFindsNoNameOnANamelessOption) {
     ASSERT_TRUE(m_storage.at(0).names().empty());
     std::string message = "untouched";
     std::int32_t const before = IArgumentParser::m_idx;
-    EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
+    EXPECT_EQ(quen_3_1::codeOf(m_result.applyDefault(m_storage, message)), 0);
     EXPECT_EQ(message, "untouched");
     EXPECT_EQ(IArgumentParser::m_idx, before);
     EXPECT_TRUE(quen_test::storedOptions(m_result).empty());
@@ -224,7 +224,7 @@ TEST_F(ParseResultStoreTest, ApplyDefaultKeepsStoredOccurrences) {
     m_result.store(m_storage.at(0), occurrence(5, {entry("7", tarvo2::variant_t(7), 6)}));
     std::string message;
     std::int32_t const before = IArgumentParser::m_idx;
-    EXPECT_EQ(m_result.applyDefault(m_storage, message), 0);
+    EXPECT_EQ(quen_3_1::codeOf(m_result.applyDefault(m_storage, message)), 0);
     for (char const* name : {"level", "l"}) {
         SCOPED_TRACE(name);
         EXPECT_EQ(at(name).m_positions, std::vector<std::int32_t>({5}));

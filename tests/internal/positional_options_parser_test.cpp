@@ -26,7 +26,7 @@ protected:
     }
 
     int parse(PositionalOptionsParser& recognizer, ArgumentList& args) {
-        return recognizer.parse(args, found, &result, storage, message);
+        return quen_3_1::codeOf(recognizer.parse(args, found, &result, storage, message));
     }
 
     // What the pipeline does with an argument this recognizer takes.

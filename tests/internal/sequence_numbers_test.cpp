@@ -89,7 +89,7 @@ TEST_F(SequenceEnd, AnOccurrenceWithoutANumberFails) {
     IArgumentParser::m_idx.store(IArgumentParser::kNoNumber);
     std::string message;
     quen_3_1::ArgumentList args(std::vector<std::string>{"--verbose"});
-    EXPECT_EQ(parser.parse("--", args, &result, message), 5);
+    EXPECT_EQ(quen_3_1::codeOf(parser.parse("--", args, &result, message)), 5);
     EXPECT_EQ(message, kExhausted);
     EXPECT_FALSE(result.present("verbose", 0, 0x7fffffff));
 }

@@ -34,7 +34,7 @@ public:
 
     int parse(quen_3_1::ArgumentList& args, quen_3_1::IResultCollector* collector,
               quen_3_1::RegisteredOptionStorage& storage, std::string& message) {
-        return m_recognizer.parse(args, m_found, collector, storage, message);
+        return quen_3_1::codeOf(m_recognizer.parse(args, m_found, collector, storage, message));
     }
 
     int getPriority() { return m_recognizer.getPriority(); }
