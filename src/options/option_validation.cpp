@@ -3,9 +3,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "options/messages.h"
 #include "options/option_description.h"
 #include "values/garbage.h"
-#include "values/messages.h"
 #include "values/variant_transfer.h"
 
 namespace quen_3_1 {
@@ -28,7 +28,7 @@ bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, st
     tarvo2::variant_t converted = fromString(text.c_str(), m_garbage);
     transferVariant(value, converted);
     if (value.m_type == tarvo2::vt_empty) {
-        message = value_messages::cannotParse(primaryName(), text, getTypeName());
+        message = option_messages::cannotParse(primaryName(), text, getTypeName());
         return false;
     }
     if (m_allowedValues.empty()) {
@@ -45,7 +45,7 @@ bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, st
             return outcome == AbbreviationOutcome::Unique;
         }
     }
-    message = value_messages::notAllowed(primaryName(), text, allowedValuesList());
+    message = option_messages::notAllowed(primaryName(), text, allowedValuesList());
     return false;
 }
 
@@ -69,7 +69,7 @@ OptionDescription::AbbreviationOutcome OptionDescription::validateAbbreviation(s
         return AbbreviationOutcome::Unique;
     }
     if (matches > 1) {
-        message = value_messages::ambiguousValue(primaryName(), allowedValuesList());
+        message = option_messages::ambiguousValue(primaryName(), allowedValuesList());
         return AbbreviationOutcome::Ambiguous;
     }
     return AbbreviationOutcome::NoMatch;

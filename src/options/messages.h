@@ -1,11 +1,11 @@
-#ifndef QUEN_3_1_VALUES_MESSAGES_H
-#define QUEN_3_1_VALUES_MESSAGES_H
+#ifndef QUEN_3_1_OPTIONS_MESSAGES_H
+#define QUEN_3_1_OPTIONS_MESSAGES_H
 
 #include <string>
 
-// The fixed texts of value conversion and validation, each written once here.
+// The fixed texts of option value conversion and validation, each written once here.
 namespace quen_3_1 {
-namespace value_messages {
+namespace option_messages {
 
 // The display names of the kinds, as messages and help show them.
 char const* typeNameUndefined();
@@ -20,7 +20,7 @@ std::string cannotParse(std::string const& option, std::string const& text, std:
 std::string notAllowed(std::string const& option, std::string const& text, std::string const& allowedList);
 std::string ambiguousValue(std::string const& option, std::string const& allowedList);
 
-}  // namespace value_messages
+}  // namespace option_messages
 }  // namespace quen_3_1
 
 #endif

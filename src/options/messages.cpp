@@ -1,7 +1,7 @@
-#include "values/messages.h"
+#include "options/messages.h"
 
 namespace quen_3_1 {
-namespace value_messages {
+namespace option_messages {
 
 char const* typeNameUndefined() { return "undefined"; }
 char const* typeNameInteger() { return "integer"; }
@@ -23,5 +23,5 @@ std::string ambiguousValue(std::string const& option, std::string const& allowed
     return "Ambiguous value for option '" + option + "'. Possible values follows: " + allowedList;
 }
 
-}  // namespace value_messages
+}  // namespace option_messages
 }  // namespace quen_3_1

@@ -4,11 +4,11 @@
 #include <sstream>
 #include <string>
 
+#include "options/messages.h"
 #include "options/option_description.h"
+#include "options/typed_operations.h"
 #include "values/classic_extraction.h"
 #include "values/garbage.h"
-#include "values/messages.h"
-#include "values/typed_operations.h"
 #include "values/variant_transfer.h"
 
 namespace quen_3_1 {
@@ -108,43 +108,43 @@ bool OperationToString::execute<char const*>() {
 
 template <class T>
 bool OperatorGetTypeName::execute() {
-    name = value_messages::typeNameUndefined();
+    name = option_messages::typeNameUndefined();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<int>() {
-    name = value_messages::typeNameInteger();
+    name = option_messages::typeNameInteger();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<unsigned int>() {
-    name = value_messages::typeNameUnsigned();
+    name = option_messages::typeNameUnsigned();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<long long>() {
-    name = value_messages::typeNameInteger64();
+    name = option_messages::typeNameInteger64();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<unsigned long long>() {
-    name = value_messages::typeNameUnsigned64();
+    name = option_messages::typeNameUnsigned64();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<double>() {
-    name = value_messages::typeNameDouble();
+    name = option_messages::typeNameDouble();
     return true;
 }
 
 template <>
 bool OperatorGetTypeName::execute<char const*>() {
-    name = value_messages::typeNameText();
+    name = option_messages::typeNameText();
     return true;
 }
 
