@@ -8,6 +8,7 @@
 #include "options/option_description.h"
 #include "options/typed_operations.h"
 #include "values/classic_extraction.h"
+#include "values/classic_rendering.h"
 #include "values/garbage.h"
 #include "values/variant_transfer.h"
 
@@ -94,6 +95,11 @@ bool OperationFromString::execute<char const*>() {
 
 template <class T>
 bool OperationToString::execute() {
+    if (classicExtraction() == ExtractionSupport::Classic) {
+        ClassicRendering rendering;
+        text = keeper->keep(rendering.render(value.as<T>()));
+        return true;
+    }
     std::stringstream stream;
     stream << value.as<T>();
     text = keeper->keep(stream.str());

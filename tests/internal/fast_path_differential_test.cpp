@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <locale>
 #include <random>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -24,6 +26,7 @@
 #include "support/recognizer_probe.h"
 #include "support/straightforward_paths.h"
 #include "values/classic_extraction.h"
+#include "values/classic_rendering.h"
 #include "values/garbage.h"
 
 using quen_3_1::AbbreviationParser;
@@ -608,6 +611,53 @@ TEST_F(FastPath, ConversionUnderAnotherGlobalLocaleEqualsAFreshStream) {
         for (tarvo2::kel_variant_type_t kind : kNumberKinds) {
             expectSameConversion(kind, text);
         }
+    }
+}
+
+namespace {
+
+// What a fresh stream in its default state writes for `value`.
+template <class T>
+std::string renderedByStream(T value) {
+    std::stringstream stream;
+    stream << value;
+    return stream.str();
+}
+
+template <class T>
+void expectSameRendering(T value) {
+    quen_3_1::ClassicRendering rendering;
+    EXPECT_EQ(std::string(rendering.render(value)), renderedByStream(value)) << renderedByStream(value);
+}
+
+}  // namespace
+
+TEST_F(FastPath, ClassicRenderingEqualsAFreshStream) {
+    GlobalLocale const classic(std::locale::classic());
+    std::mt19937_64 random(424242);
+    expectSameRendering(true);
+    expectSameRendering(false);
+    for (int value : {0, -1, 1, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        expectSameRendering(value);
+    }
+    expectSameRendering(std::numeric_limits<unsigned int>::max());
+    expectSameRendering(std::numeric_limits<long long>::min());
+    expectSameRendering(std::numeric_limits<unsigned long long>::max());
+    for (double value : {0.0, -0.0, 0.5, 1e-5, 1e-4, 123456.0, 1234567.0, 0.1 + 0.2, 1e300, -1e-300, 5e-324,
+                         std::numeric_limits<double>::max(), std::numeric_limits<double>::infinity(),
+                         -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        expectSameRendering(value);
+    }
+    for (int i = 0; i < 5000; ++i) {
+        std::uint64_t const bits = random();
+        expectSameRendering(static_cast<int>(static_cast<std::uint32_t>(bits)));
+        expectSameRendering(static_cast<unsigned int>(bits >> 32));
+        expectSameRendering(static_cast<long long>(bits));
+        expectSameRendering(static_cast<unsigned long long>(bits));
+        double number = 0;
+        std::memcpy(&number, &bits, sizeof number);
+        expectSameRendering(number);
+        expectSameRendering(static_cast<double>(static_cast<std::int32_t>(bits)) / 1000.0);
     }
 }
 
