@@ -281,8 +281,11 @@ bool LevelParse::checkRelations(ResultData& out) const {
 }
 
 bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
+    if (m_app.m_commands.empty()) {
+        return true;
+    }
     auto const found = m_line.find(CoreSession::collector());
-    if (m_app.m_commands.empty() || found == m_line.end() || found->second.entries.empty()) {
+    if (found == m_line.end() || found->second.entries.empty()) {
         out.m_rest.insert(out.m_rest.end(), m_rest.begin(), m_rest.end());
         return true;
     }
