@@ -48,6 +48,15 @@ struct ElementOf<std::vector<T>> {
 template <class T>
 constexpr bool isNumber = std::is_arithmetic_v<T> && !std::is_same_v<T, bool>;
 
+template <class E>
+constexpr bool isElement =
+    std::is_same_v<E, bool> || std::is_same_v<E, int> || std::is_same_v<E, unsigned> || std::is_same_v<E, long long> ||
+    std::is_same_v<E, unsigned long long> || std::is_same_v<E, double> || std::is_same_v<E, std::string>;
+
+// The types a variable may have: an element, or a std::optional or std::vector of one.
+template <class T>
+using IfBindable = std::enable_if_t<isElement<typename ElementOf<T>::type>>;
+
 }  // namespace app_detail
 
 // A program's (or a subcommand's) options and arguments. Not copyable; the
@@ -67,11 +76,11 @@ public:
     App& envPrefix(std::string prefix);
 
     // An option bound to a variable; its value before parsing is the default.
-    template <class T>
+    template <class T, class = app_detail::IfBindable<T>>
     Option<T>& option(std::string names, T& target, std::string help);
 
     // A positional argument; filled in declaration order, a std::vector takes the rest.
-    template <class T>
+    template <class T, class = app_detail::IfBindable<T>>
     Option<T>& positional(std::string name, T& target, std::string help);
 
     // An option whose values are option-text files, read before the command line.

@@ -58,12 +58,12 @@ App& App::envPrefix(std::string prefix) {
     return *this;
 }
 
-template <class T>
+template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
     return app_detail::declare(*m_state, names, target, std::move(help), false);
 }
 
-template <class T>
+template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
     return app_detail::declare(*m_state, name, target, std::move(help), true);
 }
