@@ -72,7 +72,9 @@ public:
     App& version(std::string text);
     // Printed at the end of --help.
     App& epilog(std::string text);
-    // Every option also read from PREFIX_NAME (upper case, '-' as '_').
+    // Every visible option of this App (not its commands) also read from PREFIX_NAME: the
+    // first name in upper case, '-' as '_'; "QSYNC" and "QSYNC_" both give QSYNC_LOG_FILE.
+    // A flag's variable holds 1, 0, true, false, yes, no, on or off.
     App& envPrefix(std::string prefix);
 
     // An option bound to a variable; its value before parsing is the default.
@@ -94,6 +96,9 @@ public:
 
     // Parses argv[1..argc-1]. Never throws for anything a user types, never
     // prints, never exits; the bound variables are set only when it succeeds.
+    // A declaration mistake (a malformed or repeated name, a positional after a
+    // std::vector positional, a relation naming no option) is reported here,
+    // with exit code 70. Not thread-safe: one parse at a time per process.
     Result parse(int argc, char const* const* argv);
 
 private:
@@ -144,7 +149,7 @@ enum class Source : std::uint8_t { CommandLine, Environment, File };
 // One value of one option, as Result::entries() lists them.
 struct Entry {
     std::string name;       // the option's first name
-    std::string text;       // the value text (a value abbreviation written out in full)
+    std::string text;       // the value text (an abbreviated allowed value in full; "1"/"0" for a flag)
     std::int32_t sequence;  // the library's sequence number: command-line order
     Source source;
 };
