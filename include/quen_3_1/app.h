@@ -190,6 +190,8 @@ private:
 
 // The library holds the instances for every supported type; a host
 // instantiates none of them.
+// The macro argument is a type used as a template argument: it can not be parenthesized.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define QUEN_APP_EXTERN_TYPE(T)                                                                                     \
     extern template class Option<T>;                                                                                \
     extern template Option<T>& App::option<T>(std::string, T&, std::string);                                        \
@@ -210,6 +212,7 @@ QUEN_APP_EXTERN_TYPE(unsigned long long)
 QUEN_APP_EXTERN_TYPE(double)
 QUEN_APP_EXTERN_TYPE(std::string)
 #undef QUEN_APP_EXTERN_TYPE
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace quen_3_1
 
