@@ -95,6 +95,10 @@ std::string badName(std::string const& names) {
 
 std::string declaredTwice(std::string const& name) { return "the name '" + name + "' is declared twice"; }
 
+std::string reservedName(std::string const& name) {
+    return "the name '" + name + "' is reserved for the plain arguments";
+}
+
 std::string positionalAfterVector(std::string const& name) {
     return "the positional '" + name + "' follows a positional that takes all the remaining arguments";
 }

@@ -37,6 +37,7 @@ std::string unknownShell(std::string const& shell);
 std::string badDeclaration(std::string const& what);
 std::string badName(std::string const& names);
 std::string declaredTwice(std::string const& name);
+std::string reservedName(std::string const& name);
 std::string positionalAfterVector(std::string const& name);
 std::string unknownReference(std::string const& name);
 std::string emptyRange(std::string const& option);
