@@ -81,10 +81,6 @@ std::string notBoolean(std::string const& value) {
     return "'" + value + "' is not a boolean (1, 0, true, false, yes, no, on, off)";
 }
 
-std::string unknownShell(std::string const& shell) {
-    return "No completion for shell '" + shell + "' (bash, zsh or fish)";
-}
-
 std::string badDeclaration(std::string const& what) { return "bad declaration: " + what; }
 
 std::string badName(std::string const& names) {

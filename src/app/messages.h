@@ -31,7 +31,6 @@ std::string inFile(std::string const& path, std::size_t line, std::string const&
 std::string unreadableFile(std::string const& path);
 std::string inVariable(std::string const& variable, std::string const& message);
 std::string notBoolean(std::string const& value);
-std::string unknownShell(std::string const& shell);
 
 // Mistakes in the program's declarations, reported by parse with kDeclarationExitCode.
 std::string badDeclaration(std::string const& what);
