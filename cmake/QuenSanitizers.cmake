@@ -1,11 +1,19 @@
-# AddressSanitizer with UndefinedBehaviorSanitizer when QUEN_SANITIZE is on.
+# AddressSanitizer with UndefinedBehaviorSanitizer when QUEN_SANITIZE is on;
+# ThreadSanitizer instead when QUEN_SANITIZE_THREAD is on.
 #
 # Every target built from the project's sources, or linking them, calls
 # quen_apply_sanitizers: the library's objects, the shared library and each
 # executable that loads it must agree on one sanitizer runtime.
 include(CheckCXXSourceCompiles)
 
-set(QUEN_SANITIZER_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+if(QUEN_SANITIZE AND QUEN_SANITIZE_THREAD)
+  message(FATAL_ERROR "QUEN_SANITIZE and QUEN_SANITIZE_THREAD exclude each other")
+endif()
+if(QUEN_SANITIZE_THREAD)
+  set(QUEN_SANITIZER_FLAGS -fsanitize=thread -fno-omit-frame-pointer)
+else()
+  set(QUEN_SANITIZER_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+endif()
 
 # The shared library is linked with --no-undefined so that a missing definition
 # shows at build time. clang links its sanitizer runtime statically into
@@ -13,7 +21,7 @@ set(QUEN_SANITIZER_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all 
 # for the loading executable to satisfy, so that check is dropped there.
 set(QUEN_LINK_NO_UNDEFINED ON)
 
-if(QUEN_SANITIZE)
+if(QUEN_SANITIZE OR QUEN_SANITIZE_THREAD)
   if(MSVC)
     message(FATAL_ERROR "QUEN_SANITIZE supports GCC and Clang only")
   endif()
@@ -33,7 +41,7 @@ if(QUEN_SANITIZE)
 endif()
 
 function(quen_apply_sanitizers target)
-  if(NOT QUEN_SANITIZE)
+  if(NOT QUEN_SANITIZE AND NOT QUEN_SANITIZE_THREAD)
     return()
   endif()
   target_compile_options(${target} PRIVATE ${QUEN_SANITIZER_FLAGS})

@@ -3,6 +3,12 @@
 // Hosts reach the library only through the abstract interfaces below, so the
 // order of every virtual operation and of every public field is part of the
 // binary contract: never reorder, insert or remove a virtual operation.
+//
+// Threads: independent parsers and results may be used on different threads
+// at once (sequence numbers come from one atomic counter, the trace switch
+// belongs to the thread that parses). One parser or one result shared between
+// threads needs the host's own locking, and the memory hooks of variant_t are
+// process-wide: set them before any thread starts.
 #ifndef QUEN_3_1_QUEN_H
 #define QUEN_3_1_QUEN_H
 
@@ -48,6 +54,8 @@ enum kel_variant_type_t : std::int32_t {
 struct QUEN_API variant_t {
     // Process-wide memory hooks for owned texts and blocks, in this order.
     // Defaults: std::free and std::malloc. Every allocation is released once.
+    // An allocation hook that answers null makes the operation throw
+    // std::bad_alloc; nothing is written through the null pointer.
     struct hooks_t {
         void (*release)(void* p);
         void* (*allocate)(std::size_t bytes);
@@ -89,6 +97,8 @@ struct QUEN_API variant_t {
 
     // Same kind: payload, text or bytes equal. Integer kinds compare with each
     // other by payload and with doubles through the payload read as unsigned.
+    // A null text (vt_str, vt_wstr or a borrowed null) compares like the empty
+    // text. vt_float and vt_double never compare equal to each other.
     bool operator==(variant_t const& other) const;
     bool operator!=(variant_t const& other) const;
 
@@ -199,6 +209,7 @@ public:
     // First plain argument into *text; returns 0, or 1 (text untouched) when none.
     virtual int getFirstArgument(char const** text) = 0;
     // Next plain argument into *text; returns 0, or 1 (text untouched) at the end.
+    // Both answer 1 for a null `text` and leave the iteration where it was.
     virtual int getNextArgument(char const** text) = 0;
 
 protected:
@@ -211,17 +222,20 @@ class QUEN_API IParser : public EventHandler {
 public:
     // Releases the parser. Handlers are neither called nor deleted.
     virtual void destroy() = 0;
-    // Stores a new, empty result in *out (the caller destroys it). Returns 0.
+    // Stores a new, empty result in *out (the caller destroys it). Returns 0,
+    // or 3 when `out` is null.
     virtual int createResult(IParseResult** out) = 0;
     // Declares an option: up to three comma-separated names (a third of at
     // most two characters), help text, value kind, group as "name" or
     // "name:title". A refused declaration returns a detached placeholder.
     virtual IOption* option(char const* names, char const* description, kel_variant_type_t type, char const* group) = 0;
     // Applies defaults, then parses argv[1..argc-1] into `result`.
-    // Returns 0, or an error code with the text in getErrorDesc().
+    // Returns 0, or an error code with the text in getErrorDesc(). Code 5:
+    // the process has handed out its last sequence number (2147483646); what
+    // was stored before stays, and every later parse fails the same way.
     virtual int parseArgsVector(int argc, char** argv, IParseResult* result) = 0;
     // Parses a text holding one argument per line (';'/'#' comment lines); no
-    // defaults are applied. Returns 0 or an error code.
+    // defaults are applied. Returns 0 or an error code (5 as above).
     virtual int parseStream(char const* text, IParseResult* result) = 0;
     // Text of the last error (empty before any). Owned by the parser.
     virtual char const* getErrorDesc() = 0;
@@ -238,7 +252,7 @@ protected:
 };
 
 // Creates a parser with the given flags into *out. Returns 0, or 3 (with *out
-// untouched) when construction failed. Release it with destroy().
+// untouched) when construction failed or `out` is null. Release it with destroy().
 QUEN_API int createParser(IParser** out, int flags);
 
 // Last value of `name` in the range that get() and next() yield (the default

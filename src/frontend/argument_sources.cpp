@@ -5,6 +5,7 @@
 #include "frontend/basic_parser.h"
 #include "frontend/option_text_lines.h"
 #include "frontend/ustring.h"
+#include "recognizers/argument_parser.h"
 #include "results/parse_result.h"
 
 namespace quen_3_1 {
@@ -18,6 +19,9 @@ ParseResult* asParseResult(IParseResult* result) { return dynamic_cast<ParseResu
 // Defaults are applied before anything else; an exception from that step is
 // not caught, as hosts have always seen it.
 int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
+    if (int const spent = refuseWhenNumbersSpent()) {
+        return spent;
+    }
     ParseResult* const parseResult = asParseResult(result);
     if (parseResult != nullptr) {
         std::string error;
@@ -44,12 +48,25 @@ int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
 // Unlike parseArgsVector, no defaults are applied: a text adds to what a
 // command line already gave.
 int BasicParser::parseStream(char const* text, IParseResult* result) {
+    if (int const spent = refuseWhenNumbersSpent()) {
+        return spent;
+    }
     try {
         std::vector<std::string> args = argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text));
         return parseVector(args, result);
     } catch (std::exception const&) {
         return 3;
     }
+}
+
+// Once the sequence numbers are spent every parse fails alike, whether or not
+// it would have needed one.
+int BasicParser::refuseWhenNumbersSpent() {
+    if (!IArgumentParser::numbersExhausted()) {
+        return 0;
+    }
+    setLastError(IArgumentParser::kNumbersExhaustedMessage);
+    return IArgumentParser::kNumbersExhaustedCode;
 }
 
 int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* result) {

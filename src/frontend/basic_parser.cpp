@@ -11,7 +11,11 @@ BasicParser::BasicParser(int flags) : m_flags(flags) { m_storage.setGarbage(&m_g
 
 void BasicParser::destroy() { delete this; }
 
+// Nowhere to store the result is a refused call, like a failed construction.
 int BasicParser::createResult(IParseResult** out) {
+    if (out == nullptr) {
+        return 3;
+    }
     *out = new ParseResult();
     return 0;
 }
@@ -25,6 +29,9 @@ char const* BasicParser::getErrorDesc() { return m_garbage.keep(m_lastError); }
 void BasicParser::setLastError(std::string const& text) { m_lastError = text; }
 
 int createParser(IParser** out, int flags) {
+    if (out == nullptr) {
+        return 3;
+    }
     try {
         *out = new BasicParser(flags);
         return 0;

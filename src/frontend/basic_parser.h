@@ -59,6 +59,8 @@ public:
 private:
     std::string describe(bool hidden);
     std::string describeOption(OptionDescription const& option);
+    // 0 while sequence numbers are left; else their code, with the last error set.
+    int refuseWhenNumbersSpent();
     int offerToPositional(std::string const& argument, ParseResult* result, std::string& error);
 
     RegisteredOptionStorage m_storage;

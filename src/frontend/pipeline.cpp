@@ -80,6 +80,10 @@ int BasicParser::collectNonparsingArguments(std::string const& terminator, Argum
         for (std::size_t i = end + 1; i < all.size(); ++i) {
             std::string const& argument = all[i];
             std::int32_t const number = IArgumentParser::takeNumber();
+            if (number == IArgumentParser::kNoNumber) {
+                error = IArgumentParser::kNumbersExhaustedMessage;
+                return IArgumentParser::kNumbersExhaustedCode;
+            }
             if (result != nullptr) {
                 result->appendArgument(argument, number);
             }

@@ -8,7 +8,20 @@
 
 namespace quen_3_1 {
 
-std::int32_t IArgumentParser::m_idx = 1;
+std::atomic<std::int32_t> IArgumentParser::m_idx{1};
+
+char const IArgumentParser::kNumbersExhaustedMessage[] =
+    "Sequence numbers exhausted: this process can number no more values.";
+
+std::int32_t IArgumentParser::takeNumber() {
+    std::int32_t next = m_idx.load(std::memory_order_relaxed);
+    while (next < kNoNumber) {
+        if (m_idx.compare_exchange_weak(next, next + 1, std::memory_order_relaxed)) {
+            return next;
+        }
+    }
+    return kNoNumber;
+}
 
 IArgumentParser::IArgumentParser(EventHandler* handler, Garbage* garbage, std::int32_t flags)
     : m_handler(handler), m_name("UndefinedParser"), m_garbage(garbage), m_flags(flags) {}
@@ -21,7 +34,11 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
     OptionData& data = m_data;
     data.m_positions.clear();
     data.m_values.clear();
-    data.m_positions.push_back(takeNumber());
+    std::int32_t const position = takeNumber();
+    if (position == kNoNumber) {
+        return refuseForWantOfNumbers(message);
+    }
+    data.m_positions.push_back(position);
     if (!value.empty()) {
         internal::trace(m_name, ": adding values to result container:");
         char const tokenizer = option.tokenizer();
@@ -55,6 +72,12 @@ int IArgumentParser::parseValueAndAddOption(std::string& value, std::string& mes
     return 0;
 }
 
+int IArgumentParser::refuseForWantOfNumbers(std::string& message) {
+    message = kNumbersExhaustedMessage;
+    internal::trace(m_name, ": ", message);
+    return kNumbersExhaustedCode;
+}
+
 // Validates one piece, numbers it, lets the handlers veto it and keeps it.
 int IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
                               OptionDescription const& option, ArgumentList const& args, OptionData& data) {
@@ -66,6 +89,9 @@ int IArgumentParser::addValue(std::string& piece, std::string const& whole, std:
         return 2;
     }
     std::int32_t const number = takeNumber();
+    if (number == kNoNumber) {
+        return refuseForWantOfNumbers(message);
+    }
     Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
     transferVariant(event.m_value, converted);
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {

@@ -57,17 +57,22 @@ int ParseResult::store(OptionDescription const& option, OptionData const& data) 
     return 0;
 }
 
-int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& /*message*/) {
+int ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& message) {
     for (std::size_t i = 0; i < storage.size(); ++i) {
         OptionDescription const& option = storage.at(i);
         if (option.type() == tarvo2::vt_empty || !option.hasDefault()) {
             continue;
         }
         for (std::string const& name : option.names()) {
+            std::int32_t const number = IArgumentParser::takeNumber();
+            if (number == IArgumentParser::kNoNumber) {
+                message = IArgumentParser::kNumbersExhaustedMessage;
+                return IArgumentParser::kNumbersExhaustedCode;
+            }
             ValueEntry& entry = m_options[name].m_default;
             entry.first.first = option.toString(option.garbage(), option.getDefault());
             entry.first.second = option.getDefault();
-            entry.second = IArgumentParser::takeNumber();
+            entry.second = number;
         }
     }
     return 0;

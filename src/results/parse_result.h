@@ -39,7 +39,8 @@ public:
     // stores append. Returns 0.
     int store(OptionDescription const& option, OptionData const& data) override;
     // Sets the default entry of every option that has one, one sequence number
-    // per name. Returns 0 and never writes `message`.
+    // per name. Returns 0, or the code and message of IArgumentParser for
+    // spent sequence numbers (the defaults set before stay).
     int applyDefault(RegisteredOptionStorage& storage, std::string& message);
     // Keeps a plain argument with its sequence number.
     void appendArgument(std::string const& text, std::int32_t number);

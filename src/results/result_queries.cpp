@@ -202,7 +202,11 @@ int ParseResult::getNextArgument(std::string& text) {
     return 0;
 }
 
+// A null output gets 1 (nothing delivered) and leaves the iteration where it is.
 int ParseResult::getFirstArgument(char const** text) {
+    if (text == nullptr) {
+        return 1;
+    }
     std::string argument;
     int const code = getFirstArgument(argument);
     if (code == 0) {
@@ -212,6 +216,9 @@ int ParseResult::getFirstArgument(char const** text) {
 }
 
 int ParseResult::getNextArgument(char const** text) {
+    if (text == nullptr) {
+        return 1;
+    }
     std::string argument;
     int const code = getNextArgument(argument);
     if (code == 0) {

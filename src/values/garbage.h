@@ -24,6 +24,8 @@ public:
     virtual char const* init(char const* text);
     // Same for a text of known length (it may hold NUL characters).
     char const* keep(std::string_view text);
+    // The number of distinct texts kept.
+    std::size_t size() const { return m_count; }
 
 private:
     // One interned text (its length is kept by the arena); a null `text`

@@ -8,33 +8,90 @@
 
 namespace quen_3_1 {
 
-// A hash of a text for the library's own tables: eight bytes at a time with
-// a multiply-xorshift step, then a full avalanche, so that the low bits that
-// pick a bucket depend on every byte. Names and values are mostly short, and
-// this is several times cheaper than the standard library's hash on them.
-inline std::uint64_t hashText(std::string_view text) {
-    constexpr std::uint64_t kStep = 0xbf58476d1ce4e5b9ULL;
-    std::uint64_t h = 0x9e3779b97f4a7c15ULL ^ text.size();
+// The secret of the library's hash tables: chosen at random once per process,
+// so that nobody can prepare texts that all land in one bucket.
+struct HashKey {
+    std::uint64_t k0;
+    std::uint64_t k1;
+};
+
+// A fresh random key; never throws (falls back on addresses and the clock).
+HashKey makeHashKey() noexcept;
+
+// The key of this process, made on first use.
+inline HashKey const& processHashKey() {
+    static HashKey const key = makeHashKey();
+    return key;
+}
+
+namespace detail {
+
+constexpr std::uint64_t rotateLeft(std::uint64_t x, int bits) { return (x << bits) | (x >> (64 - bits)); }
+
+struct SipState {
+    std::uint64_t v0;
+    std::uint64_t v1;
+    std::uint64_t v2;
+    std::uint64_t v3;
+
+    void round() {
+        v0 += v1;
+        v1 = rotateLeft(v1, 13);
+        v1 ^= v0;
+        v0 = rotateLeft(v0, 32);
+        v2 += v3;
+        v3 = rotateLeft(v3, 16);
+        v3 ^= v2;
+        v0 += v3;
+        v3 = rotateLeft(v3, 21);
+        v3 ^= v0;
+        v2 += v1;
+        v1 = rotateLeft(v1, 17);
+        v1 ^= v2;
+        v2 = rotateLeft(v2, 32);
+    }
+
+    template <int Rounds>
+    void absorb(std::uint64_t word) {
+        v3 ^= word;
+        for (int i = 0; i < Rounds; ++i) {
+            round();
+        }
+        v0 ^= word;
+    }
+};
+
+}  // namespace detail
+
+// SipHash with `C` rounds per word and `D` final rounds, over the text's
+// bytes read as little-endian words.
+template <int C, int D>
+std::uint64_t sipHash(HashKey const& key, std::string_view text) {
+    detail::SipState s{key.k0 ^ 0x736f6d6570736575ULL, key.k1 ^ 0x646f72616e646f6dULL, key.k0 ^ 0x6c7967656e657261ULL,
+                       key.k1 ^ 0x7465646279746573ULL};
     char const* p = text.data();
     std::size_t n = text.size();
     for (; n >= 8; p += 8, n -= 8) {
         std::uint64_t word = 0;
         std::memcpy(&word, p, 8);
-        h = (h ^ word) * kStep;
-        h ^= h >> 31;
+        s.absorb<C>(word);
     }
-    if (n != 0) {
-        std::uint64_t word = 0;
-        for (std::size_t i = 0; i < n; ++i) {
-            word |= static_cast<std::uint64_t>(static_cast<unsigned char>(p[i])) << (8 * i);
-        }
-        h = (h ^ word) * kStep;
-        h ^= h >> 31;
+    std::uint64_t last = static_cast<std::uint64_t>(text.size()) << 56;
+    for (std::size_t i = 0; i < n; ++i) {
+        last |= static_cast<std::uint64_t>(static_cast<unsigned char>(p[i])) << (8 * i);
     }
-    h *= 0x94d049bb133111ebULL;
-    h ^= h >> 32;
-    return h;
+    s.absorb<C>(last);
+    s.v2 ^= 0xff;
+    for (int i = 0; i < D; ++i) {
+        s.round();
+    }
+    return s.v0 ^ s.v1 ^ s.v2 ^ s.v3;
 }
+
+// The hash of a text for the library's own tables (a keeper, the name index,
+// a result's map): keyed, so that its collisions cannot be computed outside
+// the process, and with few rounds, as names and values are mostly short.
+inline std::uint64_t hashText(std::string_view text) { return sipHash<1, 3>(processHashKey(), text); }
 
 // The same as a hash function object for the standard unordered containers.
 struct TextHash {

@@ -82,10 +82,12 @@ bool OperationFromString::execute<unsigned long long>() {
     return true;
 }
 
+// The value owns its own copy: interning it would make the keeper grow with
+// every value ever parsed, and the kept copy would never be handed out.
 template <>
 bool OperationFromString::execute<char const*>() {
-    tarvo2::variant_t interned(keeper->init(text));
-    transferVariant(value, interned);
+    tarvo2::variant_t owned(text);
+    transferVariant(value, owned);
     return true;
 }
 

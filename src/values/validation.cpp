@@ -1,5 +1,6 @@
 // Checks one value text of an option against its kind and allowed values.
 // The message texts are read by hosts and kept word for word.
+#include <stdexcept>
 #include <string>
 
 #include "options/option_description.h"
@@ -7,6 +8,20 @@
 #include "values/variant_transfer.h"
 
 namespace quen_3_1 {
+
+namespace {
+
+// Only texts can be abbreviated: another kind among a text option's allowed
+// values is the host's mistake. A null text stands for the empty text.
+std::string allowedTextOf(tarvo2::variant_t const& allowed) {
+    if (allowed.m_type != tarvo2::vt_str && allowed.m_type != tarvo2::vt_str_ref) {
+        throw std::logic_error("an allowed value of a text option is not a text");
+    }
+    char const* const text = allowed.as<char const*>();
+    return text != nullptr ? text : "";
+}
+
+}  // namespace
 
 bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, std::string& message) const {
     tarvo2::variant_t converted = fromString(text.c_str(), m_garbage);
@@ -42,11 +57,11 @@ OptionDescription::AbbreviationOutcome OptionDescription::validateAbbreviation(s
     int matches = 0;
     std::string matched;
     for (tarvo2::variant_t const& allowed : m_allowedValues) {
-        std::string const allowedText(allowed.as<char const*>());
+        std::string const allowedText = allowedTextOf(allowed);
         if (allowedText.size() >= text.size() && allowedText.compare(0, text.size(), text) == 0) {
             ++matches;
             matched = allowedText;
-            tarvo2::variant_t allowedValue(m_garbage->keep(matched));
+            tarvo2::variant_t allowedValue(matched.c_str());
             transferVariant(value, allowedValue);
         }
     }

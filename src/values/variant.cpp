@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <new>
 
 #include "quen_3_1/quen.h"
 
@@ -37,8 +38,17 @@ double payloadAsDouble(std::uint64_t data) {
     return d;
 }
 
+// A hook that runs out of memory answers null; nothing is ever written there.
+void* allocateOrThrow(std::size_t bytes) {
+    void* const memory = variant_t::m_mem.allocate(bytes);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+
 void* duplicate(void const* source, std::size_t bytes) {
-    void* copy = variant_t::m_mem.allocate(bytes);
+    void* copy = allocateOrThrow(bytes);
     std::memcpy(copy, source, bytes);
     return copy;
 }
@@ -49,12 +59,20 @@ std::uint32_t blobSize(std::uint64_t data) {
     return size;
 }
 
+// A null text compares like the empty text.
+template <class C>
+C const* textOrEmpty(std::uint64_t data) {
+    static C const empty[1] = {};
+    C const* const text = payloadPointer<C const*>(data);
+    return text != nullptr ? text : empty;
+}
+
 bool equalNarrow(std::uint64_t a, std::uint64_t b) {
-    return std::strcmp(payloadPointer<char const*>(a), payloadPointer<char const*>(b)) == 0;
+    return std::strcmp(textOrEmpty<char>(a), textOrEmpty<char>(b)) == 0;
 }
 
 bool equalWide(std::uint64_t a, std::uint64_t b) {
-    return std::wcscmp(payloadPointer<wchar_t const*>(a), payloadPointer<wchar_t const*>(b)) == 0;
+    return std::wcscmp(textOrEmpty<wchar_t>(a), textOrEmpty<wchar_t>(b)) == 0;
 }
 
 bool equalBlobs(std::uint64_t a, std::uint64_t b) {
@@ -64,10 +82,16 @@ bool equalBlobs(std::uint64_t a, std::uint64_t b) {
 }
 
 // An integer payload meets a floating one as an unsigned 64-bit number, even
-// for the signed kinds; kept so for hosts that rely on it.
+// for the signed kinds; kept so for hosts that rely on it. The two floating
+// kinds of different codes never meet: nothing makes them equal.
 bool equalNumbers(variant_t const& a, variant_t const& b) {
-    if (isIntegerKind(a.m_type) && isIntegerKind(b.m_type)) {
+    bool const integerA = isIntegerKind(a.m_type);
+    bool const integerB = isIntegerKind(b.m_type);
+    if (integerA && integerB) {
         return a.m_data == b.m_data;
+    }
+    if (!integerA && !integerB) {
+        return false;
     }
     return a.as<double>() == b.as<double>();
 }
@@ -92,23 +116,32 @@ bool equalSameKind(variant_t const& a, variant_t const& b) {
     }
 }
 
-// Copies kind and payload; owned content is duplicated through the hooks.
-void copyInto(variant_t& target, variant_t const& source) {
-    target.m_type = source.m_type;
-    target.m_data = source.m_data;
-    if (!ownsMemory(source.m_type) || source.m_data == 0) {
-        return;
-    }
+// A fresh copy of the owned text, wide text or block of `source`.
+void* duplicateOwned(variant_t const& source) {
     if (source.m_type == vt_str) {
         auto const* text = payloadPointer<char const*>(source.m_data);
-        target.m_data = pointerPayload(duplicate(text, std::strlen(text) + 1));
-    } else if (source.m_type == vt_wstr) {
-        auto const* text = payloadPointer<wchar_t const*>(source.m_data);
-        target.m_data = pointerPayload(duplicate(text, (std::wcslen(text) + 1) * sizeof(wchar_t)));
-    } else {
-        target.m_data = pointerPayload(
-            duplicate(payloadPointer<void const*>(source.m_data), blobSize(source.m_data) + sizeof(std::uint32_t)));
+        return duplicate(text, std::strlen(text) + 1);
     }
+    if (source.m_type == vt_wstr) {
+        auto const* text = payloadPointer<wchar_t const*>(source.m_data);
+        return duplicate(text, (std::wcslen(text) + 1) * sizeof(wchar_t));
+    }
+    return duplicate(payloadPointer<void const*>(source.m_data), blobSize(source.m_data) + sizeof(std::uint32_t));
+}
+
+// Copies kind and payload; owned content is duplicated through the hooks.
+// `target` holds nothing owned until the copy exists, so a failed allocation
+// leaves it empty rather than sharing `source`'s memory.
+void copyInto(variant_t& target, variant_t const& source) {
+    kel_variant_type_t const type = source.m_type;
+    std::uint64_t data = source.m_data;
+    target.m_type = vt_empty;
+    target.m_data = 0;
+    if (ownsMemory(type) && data != 0) {
+        data = pointerPayload(duplicateOwned(source));
+    }
+    target.m_data = data;
+    target.m_type = type;
 }
 
 }  // namespace
@@ -152,7 +185,7 @@ variant_t variant_t::wstr_ref(wchar_t const* text) {
 
 variant_t variant_t::blob(void const* bytes, std::uint32_t size) {
     variant_t v;
-    auto* block = static_cast<unsigned char*>(m_mem.allocate(size + sizeof size));
+    auto* block = static_cast<unsigned char*>(allocateOrThrow(size + sizeof size));
     std::memcpy(block, &size, sizeof size);
     if (size != 0) {
         std::memcpy(block + sizeof size, bytes, size);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <new>
 #include <vector>
 
 #include "quen_3_1/quen.h"
@@ -271,4 +272,65 @@ TEST_F(MemoryHooks, ContainersOfOwnedValuesStayBalanced) {
         EXPECT_GT(allocations(), 0u);
     }
     expectBalanced();
+}
+
+// ---------------------------------------------------------------- exhausted memory
+
+namespace {
+
+void* refusingAllocate(std::size_t /*bytes*/) { return nullptr; }
+
+// The hooks of a process out of memory: every allocation answers null.
+class RefusingHooks : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_saved = variant_t::m_mem;
+        variant_t::m_mem.allocate = &refusingAllocate;
+    }
+    void TearDown() override { variant_t::m_mem = m_saved; }
+
+    variant_t::hooks_t m_saved{};
+};
+
+}  // namespace
+
+TEST_F(RefusingHooks, OwnedTextsAndBlocksRaiseBadAlloc) {
+    EXPECT_THROW(variant_t("text"), std::bad_alloc);
+    EXPECT_THROW(variant_t(L"wide"), std::bad_alloc);
+    EXPECT_THROW(variant_t::blob("ab", 2), std::bad_alloc);
+}
+
+TEST_F(RefusingHooks, FailedCopyLeavesTheTargetEmpty) {
+    variant_t::m_mem = m_saved;
+    variant_t const text("text");
+    variant_t target("old");
+    variant_t::m_mem.allocate = &refusingAllocate;
+    EXPECT_THROW(target = text, std::bad_alloc);
+    EXPECT_EQ(target.m_type, tarvo2::vt_empty);
+    EXPECT_THROW((void)variant_t(text), std::bad_alloc);
+    variant_t::m_mem = m_saved;
+}
+
+TEST_F(RefusingHooks, ScalarsStillNeedNoMemory) {
+    variant_t const number(5);
+    variant_t copy(number);
+    EXPECT_EQ(copy.as<int>(), 5);
+}
+
+// A text value needs an owned copy; a parse that cannot get one fails as any
+// standard exception during recognition does, and nothing is stored.
+TEST_F(RefusingHooks, ParseOfATextValueFailsWithCodeFour) {
+    quen_3_1::IParser* parser = nullptr;
+    variant_t::m_mem = m_saved;
+    ASSERT_EQ(quen_3_1::createParser(&parser, 0), 0);
+    parser->option("name", "help", tarvo2::vt_str, "general");
+    quen_3_1::IParseResult* result = nullptr;
+    ASSERT_EQ(parser->createResult(&result), 0);
+    variant_t::m_mem.allocate = &refusingAllocate;
+    EXPECT_EQ(parser->parseStream("--name=value\n", result), 4);
+    variant_t::m_mem = m_saved;
+    EXPECT_STREQ(parser->getErrorDesc(), "Unidentified problem detected.");
+    EXPECT_FALSE(result->present("name"));
+    result->destroy();
+    parser->destroy();
 }

@@ -2,6 +2,7 @@
 // applied defaults, plain arguments and the sequence numbers that order them.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -34,7 +35,8 @@ static_assert(std::is_same<decltype(OptionData::m_positions), std::vector<std::i
               "occurrence numbers are 32-bit signed");
 static_assert(std::is_same<decltype(OptionData::m_values), std::vector<ValueEntry>>::value, "values in order");
 static_assert(std::is_same<decltype(OptionData::m_default), ValueEntry>::value, "one default entry");
-static_assert(std::is_same<decltype(IArgumentParser::m_idx), std::int32_t>::value, "the counter is 32-bit signed");
+static_assert(std::is_same<decltype(IArgumentParser::m_idx), std::atomic<std::int32_t>>::value,
+              "the counter is 32-bit signed and atomic");
 
 ValueEntry entry(std::string text, tarvo2::variant_t value, std::int32_t number) {
     return ValueEntry(std::make_pair(std::move(text), value), number);

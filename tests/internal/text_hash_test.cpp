@@ -1,6 +1,6 @@
 // The hash of the library's own tables: equal texts hash alike, and every
 // byte, the length and the position of a byte change the low bits that pick
-// a bucket.
+// a bucket; it is keyed per process, so collisions cannot be prepared.
 #include "values/text_hash.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +8,9 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <vector>
+
+#include "support/colliding_texts.h"
 
 using quen_3_1::hashText;
 
@@ -41,6 +44,47 @@ TEST(TextHash, NumberedTextsSpreadOverTheLowBits) {
     std::size_t counts[kBuckets] = {};
     for (int i = 0; i < 20000; ++i) {
         ++counts[hashText("v" + std::to_string(i)) & (kBuckets - 1)];
+    }
+    std::size_t largest = 0;
+    for (std::size_t count : counts) {
+        largest = count > largest ? count : largest;
+    }
+    EXPECT_LE(largest, 20U);
+}
+
+// The keyed hash is SipHash; with two and four rounds and the published key
+// 00..0f it gives the published reference value of the 15-byte message 00..0e.
+TEST(TextHash, SipHashMatchesThePublishedReference) {
+    quen_3_1::HashKey const key{0x0706050403020100ULL, 0x0f0e0d0c0b0a0908ULL};
+    std::string message;
+    for (char c = 0; c < 15; ++c) {
+        message.push_back(c);
+    }
+    EXPECT_EQ((quen_3_1::sipHash<2, 4>(key, message)), 0xa129ca6149be45e5ULL);
+}
+
+TEST(TextHash, KeysDifferFromCallToCall) {
+    quen_3_1::HashKey const a = quen_3_1::makeHashKey();
+    quen_3_1::HashKey const b = quen_3_1::makeHashKey();
+    EXPECT_FALSE(a.k0 == b.k0 && a.k1 == b.k1);
+    EXPECT_NE((quen_3_1::sipHash<1, 3>(a, "name")), (quen_3_1::sipHash<1, 3>(b, "name")));
+}
+
+// Texts built to share one value of the former, unkeyed hash (its mixing
+// steps could be undone) spread over the buckets like any other texts.
+TEST(TextHash, TextsCollidingUnderTheFormerHashSpreadOverTheBuckets) {
+    std::vector<std::string> const texts = quen_test::collidingTexts(20000);
+    std::uint64_t const shared = quen_test::former_hash::of(texts.front());
+    std::size_t sharing = 0;
+    for (std::string const& text : texts) {
+        sharing += quen_test::former_hash::of(text) == shared ? 1U : 0U;
+    }
+    ASSERT_EQ(sharing, texts.size());
+
+    constexpr std::size_t kBuckets = 4096;
+    std::vector<std::size_t> counts(kBuckets, 0);
+    for (std::string const& text : texts) {
+        ++counts[hashText(text) & (kBuckets - 1)];
     }
     std::size_t largest = 0;
     for (std::size_t count : counts) {

@@ -250,3 +250,29 @@ TEST_F(Validation, IntegerAllowedValueOnTextOptionThrowsLogicError) {
     option("mode", tarvo2::vt_str, {variant_t(5)});
     EXPECT_THROW(check("a"), std::logic_error);
 }
+
+// ---------------------------------------------------------------- null allowed texts
+
+// A null allowed text stands for the empty text: it admits "" and nothing
+// else, and it abbreviates nothing.
+TEST_F(Validation, NullAllowedTextAdmitsTheEmptyTextOnly) {
+    option("mode", tarvo2::vt_str, {variant_t(static_cast<char const*>(nullptr)), variant_t::str_ref(nullptr)});
+    Outcome const empty = check("");
+    EXPECT_TRUE(empty.accepted);
+    EXPECT_STREQ(empty.value.as<char const*>(), "");
+    Outcome const other = check("x");
+    EXPECT_FALSE(other.accepted);
+    EXPECT_EQ(other.message, "Option 'mode' does not allow value 'x'. Possible values follows: '', ''");
+}
+
+// Parsing a value never adds to the keeper: the converted text is the
+// value's own copy.
+TEST_F(Validation, TextValuesAreNotKeptByTheKeeper) {
+    option("mode", tarvo2::vt_str);
+    std::size_t const before = m_keeper.size();
+    for (int i = 0; i < 100; ++i) {
+        Outcome const outcome = check(("value " + std::to_string(i)).c_str());
+        EXPECT_TRUE(outcome.accepted);
+    }
+    EXPECT_EQ(m_keeper.size(), before);
+}

@@ -687,3 +687,38 @@ TEST(ValueLayout, FieldsInOrder) {
     EXPECT_EQ(sizeof(Value::m_status), 4u);
     EXPECT_EQ(sizeof(Value::m_index), 4u);
 }
+
+// ---------------------------------------------------------------- hardening
+
+// The two floating kinds (10 and 11) meet under no equality rule, so the
+// same payload does not make them equal.
+TEST(VariantEquality, FloatKindNeverEqualsDoubleKind) {
+    variant_t const floating = rawVariant(tarvo2::vt_float, bitsOf(2.0));
+    variant_t const dbl(2.0);
+    EXPECT_FALSE(floating == dbl);
+    EXPECT_FALSE(dbl == floating);
+    EXPECT_TRUE(floating != dbl);
+    EXPECT_TRUE(floating == rawVariant(tarvo2::vt_float, bitsOf(2.0)));
+    EXPECT_FALSE(floating == variant_t(3ULL));
+}
+
+// A null text (kinds 12 and 13 may hold one) compares like the empty text.
+TEST(VariantEquality, NullTextComparesLikeTheEmptyText) {
+    variant_t const null(static_cast<char const*>(nullptr));
+    EXPECT_TRUE(null == variant_t(static_cast<char const*>(nullptr)));
+    EXPECT_TRUE(null == variant_t(""));
+    EXPECT_TRUE(variant_t("") == null);
+    EXPECT_TRUE(null == variant_t::str_ref(""));
+    EXPECT_TRUE(variant_t::str_ref(nullptr) == null);
+    EXPECT_FALSE(null == variant_t("x"));
+    EXPECT_FALSE(variant_t::str_ref("x") == null);
+}
+
+TEST(VariantEquality, NullWideTextComparesLikeTheEmptyWideText) {
+    variant_t const null(static_cast<wchar_t const*>(nullptr));
+    EXPECT_TRUE(null == variant_t(static_cast<wchar_t const*>(nullptr)));
+    EXPECT_TRUE(null == variant_t(L""));
+    EXPECT_TRUE(variant_t::wstr_ref(nullptr) == variant_t::wstr_ref(L""));
+    EXPECT_FALSE(null == variant_t(L"x"));
+    EXPECT_FALSE(variant_t::wstr_ref(L"x") == null);
+}
