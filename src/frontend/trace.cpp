@@ -7,7 +7,17 @@
 namespace quen_3_1 {
 namespace internal {
 
-thread_local bool quenLogEnabled = false;
+std::atomic<int> TraceSwitch::s_threadsOn{0};
+
+thread_local TraceSwitch quenLogEnabled;
+
+TraceSwitch& TraceSwitch::operator=(bool on) {
+    if (on != m_on) {
+        s_threadsOn.fetch_add(on ? 1 : -1, std::memory_order_relaxed);
+        m_on = on;
+    }
+    return *this;
+}
 
 namespace {
 
