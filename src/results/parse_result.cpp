@@ -39,12 +39,36 @@ void appendValues(std::vector<ValueEntry>& to, std::vector<ValueEntry> const& fr
 
 int ParseResult::store(OptionDescription const& option, OptionData const& data) {
     std::vector<std::string> const& names = option.names();
-    if (m_names.find(names.at(0)) == m_names.end()) {
+    auto const primary = m_names.find(names.at(0));
+    if (primary == m_names.end()) {
         replaceUnderEveryName(names, data);
+    } else if (reachesOnlyItsOwnRecord(names, primary->second.record)) {
+        appendTimes(m_records[primary->second.record], data, 1);
     } else {
         appendUnderEveryName(names, data);
     }
     return 0;
+}
+
+// The common case, checked without allocating: a few distinct names, all
+// reaching `record`, and no other name reaching it.
+bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const {
+    constexpr std::size_t kFew = 4;
+    if (names.size() > kFew || m_records[record].names != names.size()) {
+        return false;
+    }
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (names[i] == names[j]) {
+                return false;
+            }
+        }
+        auto const found = m_names.find(names[i]);
+        if (found == m_names.end() || found->second.record != record) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data) {

@@ -78,6 +78,7 @@ public:
 private:
     static constexpr std::size_t kNoRecord = static_cast<std::size_t>(-1);
 
+    bool reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const;
     void replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
     void appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
     static void appendTimes(Record& record, OptionData const& data, std::size_t times);
