@@ -22,6 +22,10 @@ allowed=(
     '^[a-z][a-z *]* tarvo2::variant_t::as<[a-z][a-z *]*>\(\) const$'
     '^char const\* quen_3_1::Value::as<char const\*>\(\) const$'
     '^(typeinfo|typeinfo name|vtable) for quen_3_1::(IParser|IParseResult|IOption|EventHandler)$'
+    '^quen_3_1::App::'
+    '^quen_3_1::Option<.*>& quen_3_1::App::(option|positional)<.*>\(.*\)$'
+    '^quen_3_1::Option<.*>::~?[A-Za-z]+\(.*\)$'
+    '^quen_3_1::Result::'
 )
 required=(
     'quen_3_1::createParser(quen_3_1::IParser**, int)'
@@ -33,6 +37,9 @@ required=(
     'tarvo2::variant_t::m_mem'
     'char const* tarvo2::variant_t::as<char const*>() const'
     'typeinfo for quen_3_1::IParser'
+    'quen_3_1::App::parse(int, char const* const*)'
+    'quen_3_1::Option<int>::required()'
+    'quen_3_1::Result::exit() const'
 )
 
 failed=0
@@ -59,13 +66,21 @@ done
 
 # Named explicitly, so that a loosened pattern above cannot let them through.
 for internal in BasicParser ParseResult OptionDescription RegisteredOptionStorage Garbage AbbreviationParser \
-    PositionalOptionsParser DecomposedName internal std; do
+    PositionalOptionsParser DecomposedName internal AppState LevelParse CoreSession ValueGate; do
     hits="$(grep -E "(^|[^A-Za-z0-9_])$internal(::|[^A-Za-z0-9_:]|$)" <<<"$symbols" || true)"
     if [[ -n "$hits" ]]; then
         echo "FAIL: internal name $internal exported: $hits" >&2
         failed=1
     fi
 done
+
+# The application layer's symbols name standard types in their parameters;
+# what must not be exported is a standard-library entity itself.
+hits="$(grep -E '^((typeinfo|typeinfo name|vtable|guard variable) for )?([^(<]* )?std::' <<<"$symbols" || true)"
+if [[ -n "$hits" ]]; then
+    echo "FAIL: standard-library entity exported: $hits" >&2
+    failed=1
+fi
 
 if [[ $failed -ne 0 ]]; then
     echo "--- exported symbols of $lib:" >&2

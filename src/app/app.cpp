@@ -1,0 +1,112 @@
+// App: the host's entry point; declarations go to AppState, parse to parseProgram.
+#include "quen_3_1/app.h"
+
+#include <exception>
+#include <utility>
+
+#include "app/app_state.h"
+#include "app/level_parse.h"
+#include "app/messages.h"
+#include "app/result_data.h"
+#include "app/typed_binding.h"
+
+namespace quen_3_1 {
+
+namespace app_detail {
+
+namespace {
+
+template <class T>
+Option<T>& declare(AppState& app, std::string const& names, T& target, std::string help, bool positional) {
+    auto binding = std::make_unique<TypedBinding<T>>(target);
+    OptionState& state = app.add(names, std::move(help), positional, std::move(binding));
+    auto handle = std::make_shared<Option<T>>(&state);
+    Option<T>& option = *handle;
+    state.m_handle = std::move(handle);
+    return option;
+}
+
+std::vector<std::string> argumentsOf(int argc, char const* const* argv) {
+    std::vector<std::string> args;
+    for (int i = 1; argv != nullptr && i < argc; ++i) {
+        args.emplace_back(argv[i] == nullptr ? "" : argv[i]);
+    }
+    return args;
+}
+
+}  // namespace
+
+}  // namespace app_detail
+
+App::App(std::string program, std::string about)
+    : m_state(std::make_unique<app_detail::AppState>(std::move(program), std::move(about))) {}
+
+App::~App() = default;
+
+App& App::version(std::string text) {
+    m_state->m_version = std::move(text);
+    return *this;
+}
+
+App& App::epilog(std::string text) {
+    m_state->m_epilog = std::move(text);
+    return *this;
+}
+
+App& App::envPrefix(std::string prefix) {
+    m_state->m_envPrefix = std::move(prefix);
+    return *this;
+}
+
+template <class T>
+Option<T>& App::option(std::string names, T& target, std::string help) {
+    return app_detail::declare(*m_state, names, target, std::move(help), false);
+}
+
+template <class T>
+Option<T>& App::positional(std::string name, T& target, std::string help) {
+    return app_detail::declare(*m_state, name, target, std::move(help), true);
+}
+
+App& App::optionsFile(std::string names, std::string help) {
+    m_state->addFile(names, std::move(help));
+    return *this;
+}
+
+App& App::command(std::string name, std::string about) { return m_state->addCommand(name, std::move(about)); }
+
+App& App::exclusive(std::vector<std::string> names, bool required) {
+    m_state->addExclusive(std::move(names), required);
+    return *this;
+}
+
+Result App::parse(int argc, char const* const* argv) {
+    auto data = std::make_shared<app_detail::ResultData>();
+    try {
+        app_detail::parseProgram(*m_state, app_detail::argumentsOf(argc, argv), *data);
+    } catch (std::exception const& caught) {
+        *data = app_detail::ResultData();
+        data->m_done = true;
+        data->m_exitCode = app_detail::kDeclarationExitCode;
+        data->m_message = app_detail::text::errorLine(m_state->m_program, caught.what());
+    }
+    return Result(std::move(data));
+}
+
+#define QUEN_APP_INSTANTIATE(T)                                                                                        \
+    template Option<T>& App::option<T>(std::string, T&, std::string);                                                  \
+    template Option<T>& App::positional<T>(std::string, T&, std::string);                                              \
+    template Option<std::optional<T>>& App::option<std::optional<T>>(std::string, std::optional<T>&, std::string);     \
+    template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&, std::string); \
+    template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, std::string);           \
+    template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, std::string);
+QUEN_APP_INSTANTIATE(bool)
+QUEN_APP_INSTANTIATE(int)
+QUEN_APP_INSTANTIATE(unsigned)
+QUEN_APP_INSTANTIATE(long long)
+QUEN_APP_INSTANTIATE(unsigned long long)
+QUEN_APP_INSTANTIATE(double)
+QUEN_APP_INSTANTIATE(std::string)
+#undef QUEN_APP_INSTANTIATE
+
+}  // namespace quen_3_1

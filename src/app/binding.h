@@ -1,0 +1,37 @@
+// What the layer needs of a bound variable, whatever its C++ type.
+#ifndef QUEN_3_1_SRC_APP_BINDING_H
+#define QUEN_3_1_SRC_APP_BINDING_H
+
+#include <string>
+#include <vector>
+
+#include "quen_3_1/quen.h"
+
+namespace quen_3_1::app_detail {
+
+class Binding {
+public:
+    Binding() = default;
+    Binding(Binding const&) = delete;
+    Binding& operator=(Binding const&) = delete;
+    virtual ~Binding() = default;
+
+    // The library's kind for one value.
+    virtual tarvo2::kel_variant_type_t kind() const = 0;
+    // A std::vector: every value is kept, and a positional takes all the rest.
+    virtual bool takesMany() const = 0;
+    // A std::optional or a std::vector: nothing to show as a default.
+    virtual bool hasDefault() const = 0;
+    // Hands the default and the allowed values to the library's option.
+    virtual void describe(IOption& option) const = 0;
+    // Empty when `text` is a value that `option` takes, the reason otherwise.
+    virtual std::string check(std::string const& option, std::string const& text) const = 0;
+    // Stores checked values in the variable (the last one unless it takes many).
+    virtual void assign(std::vector<std::string> const& texts) = 0;
+    // A declaration mistake of the refinements, or empty.
+    virtual std::string mistake(std::string const& option) const = 0;
+};
+
+}  // namespace quen_3_1::app_detail
+
+#endif  // QUEN_3_1_SRC_APP_BINDING_H

@@ -1,0 +1,140 @@
+#include "app/core_session.h"
+
+#include "app/messages.h"
+#include "quen_3_1/extras.h"
+
+namespace quen_3_1::app_detail {
+
+namespace {
+
+char const kCollector[] = "quen-app-arguments";
+char const kHiddenGroup[] = "quen_hidden";
+char const kTraceSwitch[] = "quenoption=quenlogenable=1";
+char const* const kShells[] = {"bash", "zsh", "fish"};
+int const kMaxSuggestions = 3;
+
+std::string joined(std::vector<std::string> const& names) {
+    std::string text;
+    for (std::string const& name : names) {
+        text += (text.empty() ? "" : ",") + name;
+    }
+    return text;
+}
+
+// A result released when it goes out of scope.
+struct ResultHandle {
+    IParseResult* result = nullptr;
+    ResultHandle() = default;
+    ResultHandle(ResultHandle const&) = delete;
+    ResultHandle& operator=(ResultHandle const&) = delete;
+    ~ResultHandle() {
+        if (result != nullptr) {
+            result->destroy();
+        }
+    }
+};
+
+}  // namespace
+
+CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollector) {
+    int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
+    if (createParser(&m_parser, flags) != 0) {
+        m_parser = nullptr;
+        return;
+    }
+    for (auto const& option : app.m_options) {
+        if (!option->positional()) {
+            registerOption(*option);
+        }
+        m_gate.watch(*option);
+    }
+    for (FileOption const& file : app.m_files) {
+        m_parser->option(joined(file.names).c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
+    }
+    registerBuiltins(app, top);
+    m_parser->option(kCollector, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    m_parser->addHandler(&m_gate);
+}
+
+CoreSession::~CoreSession() {
+    if (m_parser != nullptr) {
+        m_parser->destroy();
+    }
+}
+
+char const* CoreSession::collector() { return kCollector; }
+
+void CoreSession::registerOption(OptionState const& option) {
+    IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
+                                         option.m_hidden ? kHiddenGroup : "");
+    declared->tokenize(option.m_separator);
+    option.binding().describe(*declared);
+}
+
+void CoreSession::registerBuiltins(AppState const& app, bool top) {
+    if (!app.isTaken("help")) {
+        m_builtins.help = "help";
+        m_parser->option(app.isTaken("h") ? "help" : "help,h", text::kHelpDescription, tarvo2::vt_empty, "");
+    }
+    if (!app.m_version.empty() && !app.isTaken("version")) {
+        m_builtins.version = "version";
+        m_parser->option("version", text::kVersionDescription, tarvo2::vt_empty, "");
+    }
+    if (top && !app.isTaken("completion")) {
+        m_builtins.completion = "completion";
+        IOption* option = m_parser->option("completion", text::kCompletionDescription, tarvo2::vt_str, "");
+        option->tokenize(0);
+        for (char const* shell : kShells) {
+            option->allowValue(tarvo2::variant_t(shell));
+        }
+    }
+}
+
+int CoreSession::parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+                       std::string& error) {
+    if (m_parser == nullptr) {
+        error = "the library could not make a parser";
+        return 3;
+    }
+    // The library would switch its trace on for this first argument; the layer never prints.
+    if (!args.empty() && args[0] == kTraceSwitch) {
+        args[0] = std::string("--") + kCollector + "=" + args[0];
+    }
+    args.insert(args.begin(), std::string());
+    std::vector<char*> argv;
+    for (std::string& arg : args) {
+        argv.push_back(arg.data());
+    }
+    ResultHandle handle;
+    m_parser->createResult(&handle.result);
+    m_gate.begin(source, into);
+    int const code = m_parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), handle.result);
+    if (code != 0) {
+        error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();
+        return code;
+    }
+    char const* text = nullptr;
+    for (int found = handle.result->getFirstArgument(&text); found == 0;
+         found = handle.result->getNextArgument(&text)) {
+        rest.emplace_back(text);
+    }
+    return 0;
+}
+
+std::vector<std::string> CoreSession::suggestions(std::string const& argument) {
+    char const* names[kMaxSuggestions] = {};
+    int const count = m_parser == nullptr ? 0 : suggestNames(m_parser, argument.c_str(), names, kMaxSuggestions);
+    return std::vector<std::string>(names, names + count);
+}
+
+std::string CoreSession::failedArgument(std::string const& error) const {
+    std::string const ambiguous = "Ambiguous option '";
+    if (error.compare(0, ambiguous.size(), ambiguous) == 0) {
+        return "--" + error.substr(ambiguous.size(), error.find('\'', ambiguous.size()) - ambiguous.size());
+    }
+    return m_gate.unknown();
+}
+
+std::string CoreSession::description() { return m_parser == nullptr ? std::string() : m_parser->getDescription(false); }
+
+}  // namespace quen_3_1::app_detail

@@ -1,0 +1,56 @@
+// The library's parser for one App level: the App's options registered
+// through quen.h, the layer's own options (help, version, completion, the
+// plain-argument collector), and one parse per source.
+#ifndef QUEN_3_1_SRC_APP_CORE_SESSION_H
+#define QUEN_3_1_SRC_APP_CORE_SESSION_H
+
+#include <string>
+#include <vector>
+
+#include "app/app_state.h"
+#include "app/value_gate.h"
+
+namespace quen_3_1::app_detail {
+
+// First names of the layer's own options; empty when the App did not get one.
+struct BuiltinNames {
+    std::string help;
+    std::string version;
+    std::string completion;
+};
+
+class CoreSession {
+public:
+    // `top`: the App is the program itself (it gets --completion).
+    CoreSession(AppState const& app, bool top);
+    CoreSession(CoreSession const&) = delete;
+    CoreSession& operator=(CoreSession const&) = delete;
+    ~CoreSession();
+
+    // Parses `args` (no program name) as coming from `source`; `rest` gets what
+    // follows "--". Returns 0 or the library's code with `error` set.
+    int parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+              std::string& error);
+
+    // The typed names nearest to the unknown or ambiguous `argument`, best first.
+    std::vector<std::string> suggestions(std::string const& argument);
+    // The option argument that `error` (from parse) is about, for suggestions; empty for other errors.
+    std::string failedArgument(std::string const& error) const;
+    // The library's help text of the registered options.
+    std::string description();
+
+    BuiltinNames const& builtins() const { return m_builtins; }
+    static char const* collector();
+
+private:
+    void registerOption(OptionState const& option);
+    void registerBuiltins(AppState const& app, bool top);
+
+    IParser* m_parser = nullptr;
+    ValueGate m_gate;
+    BuiltinNames m_builtins;
+};
+
+}  // namespace quen_3_1::app_detail
+
+#endif  // QUEN_3_1_SRC_APP_CORE_SESSION_H

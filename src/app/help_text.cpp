@@ -1,0 +1,81 @@
+#include "app/help_text.h"
+
+#include "app/messages.h"
+
+namespace quen_3_1::app_detail {
+
+namespace {
+
+// The column at which the library starts option descriptions.
+std::size_t const kDescriptionColumn = 30;
+
+std::string positionalUsage(OptionState const& option) {
+    std::string usage = "<" + option.name() + ">";
+    if (option.binding().takesMany()) {
+        usage += "...";
+    }
+    return option.m_required ? usage : "[" + usage + "]";
+}
+
+// A name and its description, in the library's columns.
+std::string row(std::string const& name, std::string const& description) {
+    std::string line = "  " + name;
+    line += line.size() < kDescriptionColumn ? std::string(kDescriptionColumn - line.size(), ' ')
+                                             : "\n" + std::string(kDescriptionColumn, ' ');
+    return line + description + "\n";
+}
+
+std::string section(char const* heading, std::string const& rows) {
+    return rows.empty() ? std::string() : std::string(heading) + "\n" + rows + "\n";
+}
+
+std::string positionalRows(AppState const& app) {
+    std::string rows;
+    for (auto const& option : app.m_options) {
+        if (option->positional() && !option->m_hidden) {
+            rows += row(positionalUsage(*option), option->help());
+        }
+    }
+    return rows;
+}
+
+std::string commandRows(AppState const& app) {
+    std::string rows;
+    for (auto const& command : app.m_commands) {
+        rows += row(AppState::of(*command).m_name, AppState::of(*command).m_about);
+    }
+    return rows;
+}
+
+}  // namespace
+
+std::string usageLine(AppState const& app) {
+    std::string line = text::kUsage + app.m_program + text::kOptionsSuffix;
+    for (auto const& option : app.m_options) {
+        if (option->positional()) {
+            line += " " + positionalUsage(*option);
+        }
+    }
+    if (!app.m_commands.empty()) {
+        line += text::kCommandSuffix;
+    }
+    return line + "\n";
+}
+
+std::string helpText(AppState const& app, std::string const& description) {
+    std::string help = usageLine(app) + "\n";
+    if (!app.m_about.empty()) {
+        help += app.m_about + "\n\n";
+    }
+    // The library's text opens with an empty line and closes each group with one.
+    std::string const options = description.size() > 1 && description[0] == '\n' ? description.substr(1) : "";
+    help += options.empty() ? "" : std::string(text::kOptionsHeading) + "\n" + options;
+    help += section(text::kArgumentsHeading, positionalRows(app));
+    help += section(text::kCommandsHeading, commandRows(app));
+    if (!app.m_epilog.empty()) {
+        help += app.m_epilog + "\n";
+    }
+    return help;
+}
+
+}  // namespace quen_3_1::app_detail

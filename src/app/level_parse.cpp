@@ -1,0 +1,333 @@
+#include "app/level_parse.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+
+#include "app/command_match.h"
+#include "app/completion_tree.h"
+#include "app/help_text.h"
+#include "app/library_reason.h"
+#include "app/messages.h"
+#include "app/positional_check.h"
+
+namespace quen_3_1::app_detail {
+
+namespace {
+
+char const* const kTrueWords[] = {"1", "true", "yes", "on"};
+char const* const kFalseWords[] = {"0", "false", "no", "off"};
+
+bool isOneOf(std::string const& word, char const* const (&words)[4]) {
+    return std::any_of(std::begin(words), std::end(words), [&](char const* w) { return word == w; });
+}
+
+std::string upperName(std::string const& name) {
+    std::string variable;
+    for (char c : name) {
+        variable += c == '-' ? '_' : (c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c);
+    }
+    return variable;
+}
+
+}  // namespace
+
+LevelParse::LevelParse(AppState& app, AppState const& root) : m_app(app), m_root(root), m_session(app, &app == &root) {}
+
+bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits) {
+    std::string error;
+    int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
+    if (stopAtBuiltin(out)) {
+        return false;
+    }
+    if (code != 0) {
+        std::string const argument = m_session.failedArgument(error);
+        return fail(out, error, argument.empty() ? std::vector<std::string>() : m_session.suggestions(argument));
+    }
+    if (!readFiles(out) || !readEnvironment(out) || !fillPositionals(out, commits) || !checkRelations(out)) {
+        return false;
+    }
+    takeNamed(out, commits);
+    return descend(out, commits);
+}
+
+bool LevelParse::stopAtBuiltin(ResultData& out) {
+    BuiltinNames const& builtins = m_session.builtins();
+    auto const given = [&](std::string const& name) { return !name.empty() && m_line.count(name) != 0; };
+    if (given(builtins.help)) {
+        out.m_message = helpText(m_app, m_session.description());
+    } else if (given(builtins.version)) {
+        out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
+    } else if (given(builtins.completion) && !m_line[builtins.completion].entries.empty()) {
+        out.m_message = completionScript(m_root, m_line[builtins.completion].entries.back().text);
+    } else {
+        return false;
+    }
+    out.m_done = true;
+    out.m_toStandardOutput = true;
+    return true;
+}
+
+bool LevelParse::fail(ResultData& out, std::string const& message, std::vector<std::string> const& suggestions) const {
+    out.m_done = true;
+    out.m_exitCode = kUsageExitCode;
+    out.m_toStandardOutput = false;
+    out.m_message = text::errorLine(m_app.m_program, message) +
+                    (suggestions.empty() ? std::string() : text::didYouMean(suggestions)) + usageLine(m_app) +
+                    text::tryHelpLine(m_app.m_program);
+    return false;
+}
+
+bool LevelParse::readFiles(ResultData& out) {
+    for (FileOption const& file : m_app.m_files) {
+        auto const found = m_line.find(file.names.front());
+        if (found == m_line.end()) {
+            continue;
+        }
+        for (Entry const& path : found->second.entries) {
+            if (!readFile(path.text, out)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+bool LevelParse::readFile(std::string const& path, ResultData& out) {
+    FileArguments file;
+    if (!readOptionsFile(path, file)) {
+        return fail(out, text::unreadableFile(path));
+    }
+    std::vector<std::string> rest;
+    std::string error;
+    if (m_session.parse(file.arguments, Source::File, m_files, rest, error) != 0) {
+        return fail(out, text::inFile(path, failingLine(file, error), error));
+    }
+    return true;
+}
+
+// The first line at which the file's arguments fail with this same error.
+std::size_t LevelParse::failingLine(FileArguments const& file, std::string const& error) {
+    for (std::size_t count = 1; count < file.arguments.size(); ++count) {
+        SourceValues scratch;
+        std::vector<std::string> rest;
+        std::string again;
+        std::vector<std::string> const prefix(file.arguments.begin(),
+                                              file.arguments.begin() + static_cast<std::ptrdiff_t>(count));
+        if (m_session.parse(prefix, Source::File, scratch, rest, again) != 0 && again == error) {
+            return file.lines[count - 1];
+        }
+    }
+    return file.lines.empty() ? 1 : file.lines.back();
+}
+
+bool LevelParse::readEnvironment(ResultData& out) {
+    for (auto const& option : m_app.m_options) {
+        std::string const variable = option->positional() ? std::string() : variableOf(*option);
+        if (!variable.empty() && !readVariable(*option, variable, out)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool LevelParse::readVariable(OptionState const& option, std::string const& variable, ResultData& out) {
+    char const* found = std::getenv(variable.c_str());
+    if (found == nullptr || *found == '\0') {
+        return true;
+    }
+    std::string const value = found;
+    std::string argument = "--" + option.name() + "=" + value;
+    if (option.binding().kind() == tarvo2::vt_bool) {
+        if (!isOneOf(value, kTrueWords) && !isOneOf(value, kFalseWords)) {
+            return fail(out, text::inVariable(variable, text::notBoolean(value)));
+        }
+        argument = (isOneOf(value, kTrueWords) ? "--" : "--no-") + option.name();
+    }
+    std::vector<std::string> rest;
+    std::string error;
+    if (m_session.parse({argument}, Source::Environment, m_environment, rest, error) != 0) {
+        return fail(out, text::inVariable(variable, libraryReason(error, argument)));
+    }
+    return true;
+}
+
+std::string LevelParse::variableOf(OptionState const& option) const {
+    if (!option.m_env.empty()) {
+        return option.m_env;
+    }
+    if (m_app.m_envPrefix.empty() || option.m_hidden) {
+        return {};
+    }
+    std::string const& prefix = m_app.m_envPrefix;
+    return prefix + (prefix.back() == '_' ? "" : "_") + upperName(option.name());
+}
+
+// The command line wins over the environment, the environment over the files.
+OptionValues const* LevelParse::winner(std::string const& name) const {
+    for (SourceValues const* source : {&m_line, &m_environment, &m_files}) {
+        auto const found = source->find(name);
+        if (found != source->end() && found->second.count > 0) {
+            return &found->second;
+        }
+    }
+    return nullptr;
+}
+
+bool LevelParse::given(std::string const& name) const {
+    OptionState const* option = m_app.find(name);
+    if (option == nullptr) {
+        return false;
+    }
+    if (option->positional()) {
+        auto const found = m_positionalCounts.find(option->name());
+        return found != m_positionalCounts.end() && found->second > 0;
+    }
+    return winner(option->name()) != nullptr;
+}
+
+void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
+    for (auto const& option : m_app.m_options) {
+        if (option->positional()) {
+            out.m_counts.push_back(CountedOption{option->names(), m_positionalCounts[option->name()]});
+            continue;
+        }
+        OptionValues const* values = winner(option->name());
+        out.m_counts.push_back(CountedOption{option->names(), values == nullptr ? 0 : values->count});
+        if (values != nullptr) {
+            out.m_entries.insert(out.m_entries.end(), values->entries.begin(), values->entries.end());
+            commits.push_back(Commit{&option->binding(), textsOf(*values)});
+        }
+    }
+    for (FileOption const& file : m_app.m_files) {
+        auto const found = m_line.find(file.names.front());
+        out.m_counts.push_back(CountedOption{file.names, found == m_line.end() ? 0 : found->second.count});
+    }
+}
+
+bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) {
+    if (!m_app.m_commands.empty()) {
+        return true;
+    }
+    OptionValues const* collected = winner(CoreSession::collector());
+    std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
+    std::size_t const beforeTerminator = plain.size();
+    std::int32_t const last = plain.empty() ? 0 : plain.back().sequence;
+    for (std::string const& text : m_rest) {
+        plain.push_back(Entry{std::string(), text, last, Source::CommandLine});
+    }
+    std::size_t next = 0;
+    for (auto const& option : m_app.m_options) {
+        if (!option->positional()) {
+            continue;
+        }
+        std::size_t const take =
+            option->binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
+        std::vector<std::string> texts;
+        for (std::size_t i = 0; i < take; ++i, ++next) {
+            Entry entry = plain[next];
+            std::string const reason = checkPositional(*option, entry.text);
+            if (!reason.empty()) {
+                return fail(out, reason);
+            }
+            entry.name = option->name();
+            out.m_entries.push_back(entry);
+            texts.push_back(entry.text);
+        }
+        m_positionalCounts[option->name()] = texts.size();
+        if (!texts.empty()) {
+            commits.push_back(Commit{&option->binding(), texts});
+        }
+    }
+    if (next < beforeTerminator) {
+        return fail(out, text::unexpectedArgument(plain[next].text));
+    }
+    for (; next < plain.size(); ++next) {
+        out.m_rest.push_back(plain[next].text);
+    }
+    return true;
+}
+
+bool LevelParse::checkRelations(ResultData& out) const {
+    for (auto const& option : m_app.m_options) {
+        if (option->m_required && !given(option->name())) {
+            return fail(out, text::required(option->name()));
+        }
+        if (!given(option->name())) {
+            continue;
+        }
+        for (std::string const& other : option->m_needs) {
+            if (!given(other)) {
+                return fail(out, text::needs(option->name(), other));
+            }
+        }
+        for (std::string const& other : option->m_excludes) {
+            if (given(other)) {
+                return fail(out, text::excludes(option->name(), other));
+            }
+        }
+    }
+    for (ExclusiveGroup const& group : m_app.m_exclusive) {
+        auto const count =
+            std::count_if(group.names.begin(), group.names.end(), [&](std::string const& name) { return given(name); });
+        if (count > 1) {
+            return fail(out, text::exclusive(group.names));
+        }
+        if (count == 0 && group.required) {
+            return fail(out, text::exclusiveRequired(group.names));
+        }
+    }
+    return true;
+}
+
+bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
+    if (m_app.m_commands.empty()) {
+        return true;
+    }
+    auto const found = m_line.find(CoreSession::collector());
+    if (found == m_line.end() || found->second.entries.empty()) {
+        out.m_rest.insert(out.m_rest.end(), m_rest.begin(), m_rest.end());
+        return true;
+    }
+    std::vector<Entry> const& plain = found->second.entries;
+    std::vector<std::string> names;
+    for (auto const& command : m_app.m_commands) {
+        names.push_back(AppState::of(*command).m_name);
+    }
+    std::vector<std::string> const matches = matchCommand(plain.front().text, names);
+    if (matches.size() != 1) {
+        return fail(out, matches.empty() ? text::unknownCommand(plain.front().text)
+                                         : text::ambiguousCommand(plain.front().text, matches));
+    }
+    std::vector<std::string> args;
+    for (auto entry = plain.begin() + 1; entry != plain.end(); ++entry) {
+        args.push_back(entry->text);
+    }
+    if (!m_rest.empty()) {
+        args.emplace_back("--");
+        args.insert(args.end(), m_rest.begin(), m_rest.end());
+    }
+    out.m_command.push_back(matches.front());
+    auto const index = static_cast<std::size_t>(std::find(names.begin(), names.end(), matches.front()) - names.begin());
+    return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(args, out, commits);
+}
+
+void parseProgram(AppState& app, std::vector<std::string> const& args, ResultData& out) {
+    std::string const mistake = app.mistake();
+    if (!mistake.empty()) {
+        out.m_done = true;
+        out.m_exitCode = kDeclarationExitCode;
+        out.m_message = text::errorLine(app.m_program, mistake);
+        return;
+    }
+    std::vector<Commit> commits;
+    if (LevelParse(app, app).run(args, out, commits)) {
+        for (Commit const& commit : commits) {
+            commit.binding->assign(commit.texts);
+        }
+    }
+    std::stable_sort(out.m_entries.begin(), out.m_entries.end(),
+                     [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; });
+}
+
+}  // namespace quen_3_1::app_detail

@@ -1,0 +1,64 @@
+// The parse of one App level: the command line, the options files and the
+// environment weighed against each other, the values checked and put in
+// order, the positionals filled, and the chosen command parsed in turn.
+#ifndef QUEN_3_1_SRC_APP_LEVEL_PARSE_H
+#define QUEN_3_1_SRC_APP_LEVEL_PARSE_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/app_state.h"
+#include "app/core_session.h"
+#include "app/option_files.h"
+#include "app/result_data.h"
+#include "app/source_values.h"
+
+namespace quen_3_1::app_detail {
+
+// Values for one variable, stored only when the whole parse succeeded.
+struct Commit {
+    Binding* binding;
+    std::vector<std::string> texts;
+};
+
+class LevelParse {
+public:
+    // `root` is the program's App (its own, or a command's ancestor), for the completion script.
+    LevelParse(AppState& app, AppState const& root);
+
+    // False when parsing stops at this level: help, version, completion or an error, in `out`.
+    bool run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits);
+
+private:
+    bool stopAtBuiltin(ResultData& out);
+    bool fail(ResultData& out, std::string const& message, std::vector<std::string> const& suggestions = {}) const;
+    bool readFiles(ResultData& out);
+    bool readFile(std::string const& path, ResultData& out);
+    std::size_t failingLine(FileArguments const& file, std::string const& error);
+    bool readEnvironment(ResultData& out);
+    bool readVariable(OptionState const& option, std::string const& variable, ResultData& out);
+    std::string variableOf(OptionState const& option) const;
+    OptionValues const* winner(std::string const& name) const;
+    bool given(std::string const& name) const;
+    void takeNamed(ResultData& out, std::vector<Commit>& commits);
+    bool fillPositionals(ResultData& out, std::vector<Commit>& commits);
+    bool checkRelations(ResultData& out) const;
+    bool descend(ResultData& out, std::vector<Commit>& commits);
+
+    AppState& m_app;
+    AppState const& m_root;
+    CoreSession m_session;
+    SourceValues m_line;
+    SourceValues m_environment;
+    SourceValues m_files;
+    std::vector<std::string> m_rest;
+    std::map<std::string, std::size_t> m_positionalCounts;
+};
+
+// The whole parse of a program: declaration mistakes first, then every level.
+void parseProgram(AppState& app, std::vector<std::string> const& args, ResultData& out);
+
+}  // namespace quen_3_1::app_detail
+
+#endif  // QUEN_3_1_SRC_APP_LEVEL_PARSE_H

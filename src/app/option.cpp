@@ -1,0 +1,89 @@
+// Option<T>: the host's handle on one declaration, refining its binding.
+#include <utility>
+
+#include "app/option_state.h"
+#include "app/typed_binding.h"
+#include "quen_3_1/app.h"
+
+namespace quen_3_1 {
+
+namespace {
+
+template <class T>
+app_detail::TypedBinding<T>& typed(app_detail::OptionState* state) {
+    return static_cast<app_detail::TypedBinding<T>&>(state->binding());
+}
+
+}  // namespace
+
+template <class T>
+Option<T>::Option(app_detail::OptionState* state) : m_state(state) {}
+
+template <class T>
+Option<T>& Option<T>::required() {
+    m_state->m_required = true;
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::allow(std::vector<Element> values) {
+    typed<T>(m_state).allow(std::move(values));
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::setRange(Element lowest, Element highest) {
+    typed<T>(m_state).range(lowest, highest);
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::check(std::function<std::string(Element const&)> test) {
+    typed<T>(m_state).check(std::move(test));
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::env(std::string variable) {
+    m_state->m_env = std::move(variable);
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::needs(std::string other) {
+    m_state->m_needs.push_back(std::move(other));
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::excludes(std::string other) {
+    m_state->m_excludes.push_back(std::move(other));
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::split(char separator) {
+    m_state->m_separator = separator;
+    return *this;
+}
+
+template <class T>
+Option<T>& Option<T>::hidden() {
+    m_state->m_hidden = true;
+    return *this;
+}
+
+#define QUEN_APP_INSTANTIATE(T)              \
+    template class Option<T>;                \
+    template class Option<std::optional<T>>; \
+    template class Option<std::vector<T>>;
+QUEN_APP_INSTANTIATE(bool)
+QUEN_APP_INSTANTIATE(int)
+QUEN_APP_INSTANTIATE(unsigned)
+QUEN_APP_INSTANTIATE(long long)
+QUEN_APP_INSTANTIATE(unsigned long long)
+QUEN_APP_INSTANTIATE(double)
+QUEN_APP_INSTANTIATE(std::string)
+#undef QUEN_APP_INSTANTIATE
+
+}  // namespace quen_3_1

@@ -1,0 +1,132 @@
+// The binding of one variable of type T: its allowed values, range and
+// checks, and how its texts become values.
+#ifndef QUEN_3_1_SRC_APP_TYPED_BINDING_H
+#define QUEN_3_1_SRC_APP_TYPED_BINDING_H
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/binding.h"
+#include "app/messages.h"
+#include "app/whole_values.h"
+#include "quen_3_1/app.h"
+
+namespace quen_3_1::app_detail {
+
+template <class E>
+constexpr tarvo2::kel_variant_type_t kindOf() {
+    if constexpr (std::is_same_v<E, bool>) {
+        return tarvo2::vt_bool;
+    } else if constexpr (std::is_same_v<E, int>) {
+        return tarvo2::vt_int;
+    } else if constexpr (std::is_same_v<E, unsigned>) {
+        return tarvo2::vt_uint;
+    } else if constexpr (std::is_same_v<E, long long>) {
+        return tarvo2::vt_int64;
+    } else if constexpr (std::is_same_v<E, unsigned long long>) {
+        return tarvo2::vt_uint64;
+    } else if constexpr (std::is_same_v<E, double>) {
+        return tarvo2::vt_double;
+    } else {
+        return tarvo2::vt_str;
+    }
+}
+
+template <class E>
+tarvo2::variant_t variantOf(E const& value) {
+    if constexpr (std::is_same_v<E, std::string>) {
+        return tarvo2::variant_t(value.c_str());
+    } else {
+        return tarvo2::variant_t(value);
+    }
+}
+
+template <class T>
+class TypedBinding final : public Binding {
+public:
+    using Element = typename ElementOf<T>::type;
+
+    explicit TypedBinding(T& target) : m_target(target) {}
+
+    void allow(std::vector<Element> values) { m_allowed = std::move(values); }
+    void range(Element lowest, Element highest) { m_range = std::make_pair(lowest, highest); }
+    void check(std::function<std::string(Element const&)> test) { m_checks.push_back(std::move(test)); }
+
+    tarvo2::kel_variant_type_t kind() const override { return kindOf<Element>(); }
+    bool takesMany() const override { return isVector; }
+    bool hasDefault() const override { return !isVector && !isOptional; }
+
+    void describe(IOption& option) const override {
+        for (Element const& value : m_allowed) {
+            option.allowValue(variantOf(value));
+        }
+        if constexpr (std::is_same_v<T, std::string>) {
+            // An empty text would show as "()"; the library counts it as no default anyway.
+            if (!m_target.empty()) {
+                option.defaultValue(variantOf(m_target));
+            }
+        } else if constexpr (!isVector && !isOptional) {
+            option.defaultValue(variantOf(m_target));
+        }
+    }
+
+    std::string check(std::string const& option, std::string const& text) const override {
+        Element value{};
+        if (!readWhole(text, value)) {
+            return text::notWhole(option, text, wholeKind(value));
+        }
+        if (m_range && (value < m_range->first || m_range->second < value)) {
+            return text::outOfRange(option, text, valueText(m_range->first), valueText(m_range->second));
+        }
+        for (auto const& test : m_checks) {
+            std::string reason = test ? test(value) : std::string();
+            if (!reason.empty()) {
+                return text::failedCheck(option, text, reason);
+            }
+        }
+        return {};
+    }
+
+    void assign(std::vector<std::string> const& texts) override {
+        if (texts.empty()) {
+            return;
+        }
+        if constexpr (isVector) {
+            m_target.clear();
+            for (std::string const& text : texts) {
+                m_target.push_back(read(text));
+            }
+        } else {
+            m_target = read(texts.back());
+        }
+    }
+
+    std::string mistake(std::string const& option) const override {
+        if (m_range && m_range->second < m_range->first) {
+            return text::emptyRange(option);
+        }
+        return {};
+    }
+
+private:
+    static constexpr bool isVector = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
+    static constexpr bool isOptional = !std::is_same_v<T, Element> && !isVector;
+
+    static Element read(std::string const& text) {
+        Element value{};
+        readWhole(text, value);
+        return value;
+    }
+
+    T& m_target;
+    std::vector<Element> m_allowed;
+    std::optional<std::pair<Element, Element>> m_range;
+    std::vector<std::function<std::string(Element const&)>> m_checks;
+};
+
+}  // namespace quen_3_1::app_detail
+
+#endif  // QUEN_3_1_SRC_APP_TYPED_BINDING_H

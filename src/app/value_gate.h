@@ -1,0 +1,47 @@
+// The layer's handler on the library's parser: it hears every option and
+// value in command-line order, vetoes a value that is not whole or fails a
+// range or check, and records the rest with their sequence numbers.
+#ifndef QUEN_3_1_SRC_APP_VALUE_GATE_H
+#define QUEN_3_1_SRC_APP_VALUE_GATE_H
+
+#include <map>
+#include <string>
+
+#include "app/option_state.h"
+#include "app/source_values.h"
+#include "quen_3_1/app.h"
+
+namespace quen_3_1::app_detail {
+
+class ValueGate final : public EventHandler {
+public:
+    // `collector` is the first name of the option that takes plain arguments.
+    explicit ValueGate(std::string collector);
+
+    void watch(OptionState const& option);
+    // Records what follows into `into`, as coming from `source`.
+    void begin(Source source, SourceValues& into);
+
+    bool onOptionParse(char const* name) override;
+    bool onValueParse(char const* name, Value const& value) override;
+    bool onUknownArgument(char const* argument) override;
+
+    // The layer's reason for the last veto, or empty.
+    std::string const& refusal() const { return m_refusal; }
+    // The last argument that no option took.
+    std::string const& unknown() const { return m_unknown; }
+
+private:
+    std::string m_collector;
+    std::map<std::string, OptionState const*> m_watched;
+    Source m_source = Source::CommandLine;
+    SourceValues* m_into = nullptr;
+    std::string m_refusal;
+    std::string m_unknown;
+    bool m_emptyArgument = false;
+    std::int32_t m_lastSequence = 0;
+};
+
+}  // namespace quen_3_1::app_detail
+
+#endif  // QUEN_3_1_SRC_APP_VALUE_GATE_H

@@ -1,0 +1,126 @@
+#include "app/whole_values.h"
+
+#include <cerrno>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <sstream>
+
+namespace quen_3_1::app_detail {
+
+namespace {
+
+char const kHexDigits[] = "0123456789ABCDEFabcdef";
+
+bool allOf(std::string const& text, char const* set) {
+    return !text.empty() && text.find_first_not_of(set) == std::string::npos;
+}
+
+// Digits with an optional leading '-' (signed types only); no blanks, no '+'.
+bool isDecimal(std::string const& text, bool sign) {
+    std::size_t const start = sign && !text.empty() && text[0] == '-' ? 1 : 0;
+    return allOf(text.substr(start), "0123456789");
+}
+
+bool readSigned(std::string const& text, long long& out) {
+    if (!isDecimal(text, true)) {
+        return false;
+    }
+    errno = 0;
+    out = std::strtoll(text.c_str(), nullptr, 10);
+    return errno == 0;
+}
+
+bool readUnsigned(std::string const& text, int base, unsigned long long& out) {
+    errno = 0;
+    out = std::strtoull(text.c_str(), nullptr, base);
+    return errno == 0;
+}
+
+template <class T>
+std::string streamed(T value) {
+    std::ostringstream stream;
+    stream << value;
+    return stream.str();
+}
+
+}  // namespace
+
+bool readWhole(std::string const& text, bool& out) {
+    if (text != "1" && text != "0") {
+        return false;
+    }
+    out = text == "1";
+    return true;
+}
+
+bool readWhole(std::string const& text, int& out) {
+    long long wide = 0;
+    if (!readSigned(text, wide) || wide < std::numeric_limits<int>::min() || wide > std::numeric_limits<int>::max()) {
+        return false;
+    }
+    out = static_cast<int>(wide);
+    return true;
+}
+
+bool readWhole(std::string const& text, unsigned& out) {
+    unsigned long long wide = 0;
+    if (!isDecimal(text, false) || !readUnsigned(text, 10, wide) || wide > std::numeric_limits<unsigned>::max()) {
+        return false;
+    }
+    out = static_cast<unsigned>(wide);
+    return true;
+}
+
+bool readWhole(std::string const& text, long long& out) { return readSigned(text, out); }
+
+bool readWhole(std::string const& text, unsigned long long& out) {
+    if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && allOf(text.substr(2), kHexDigits)) {
+        return readUnsigned(text.substr(2), 16, out);
+    }
+    if (text.size() > 1 && (text.back() == 'h' || text.back() == 'H') &&
+        allOf(text.substr(0, text.size() - 1), kHexDigits)) {
+        return readUnsigned(text.substr(0, text.size() - 1), 16, out);
+    }
+    return isDecimal(text, false) && readUnsigned(text, 10, out);
+}
+
+bool readWhole(std::string const& text, double& out) {
+    // No blanks, hexadecimal, "inf" or "nan": only what a decimal number is made of.
+    if (text.empty() || text.find_first_not_of("0123456789.eE+-") != std::string::npos) {
+        return false;
+    }
+    char* end = nullptr;
+    errno = 0;
+    double const value = std::strtod(text.c_str(), &end);
+    if (errno != 0 || end != text.c_str() + text.size() || !std::isfinite(value)) {
+        return false;
+    }
+    out = value;
+    return true;
+}
+
+bool readWhole(std::string const& text, std::string& out) {
+    out = text;
+    return true;
+}
+
+std::string wholeKind(bool const& /*tag*/) { return "1 or 0"; }
+std::string wholeKind(int const& /*tag*/) { return "a whole integer"; }
+std::string wholeKind(unsigned const& /*tag*/) { return "a whole unsigned integer"; }
+std::string wholeKind(long long const& /*tag*/) { return "a whole 64 bit integer"; }
+std::string wholeKind(unsigned long long const& /*tag*/) {
+    return "a whole unsigned 64 bit integer (decimal, 0x... or ...h)";
+}
+std::string wholeKind(double const& /*tag*/) { return "a finite decimal number"; }
+std::string wholeKind(std::string const& /*tag*/) { return "a text"; }
+
+std::string valueText(bool value) { return value ? "1" : "0"; }
+std::string valueText(int value) { return std::to_string(value); }
+std::string valueText(unsigned value) { return std::to_string(value); }
+std::string valueText(long long value) { return std::to_string(value); }
+std::string valueText(unsigned long long value) { return std::to_string(value); }
+std::string valueText(double value) { return streamed(value); }
+std::string valueText(std::string const& value) { return value; }
+
+}  // namespace quen_3_1::app_detail

@@ -1,0 +1,135 @@
+// --help, --version and the error lines, and where exit() writes them.
+#include <gtest/gtest.h>
+#include <quen_3_1/app.h>
+
+#include <string>
+#include <vector>
+
+#include "support/app_harness.h"
+#include "support/capture.h"
+
+using quen_test::parseLine;
+
+namespace {
+
+class Qsync : public testing::Test {
+protected:
+    Qsync() {
+        app.version("1.4.2").epilog("Report problems to the keeper.");
+        app.option("jobs,j", jobs, "Copies at once.").range(1, 64);
+        app.option("mode", mode, "How to copy.").allow({"fast", "mirror", "safe"});
+        app.option("verbose,v", verbose, "Say more.");
+        app.option("log-file", logFile, "Where to log.");
+        app.option("secret", secret, "Not shown.").hidden();
+        app.positional("files", files, "What to copy.").required();
+    }
+    quen_3_1::App app{"qsync", "Copy a folder tree to a backup place."};
+    int jobs = 4;
+    std::string mode = "fast";
+    bool verbose = false;
+    std::string logFile;
+    std::string secret;
+    std::vector<std::string> files;
+};
+
+TEST_F(Qsync, HelpHasUsageAboutOptionsArgumentsAndEpilog) {
+    quen_3_1::Result const result = parseLine(app, {"--help"});
+    EXPECT_TRUE(result.done());
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(result.message(),
+              "Usage: qsync [options] <files>...\n\n"
+              "Copy a folder tree to a backup place.\n\n"
+              "Options:\n"
+              "-j, -jobs=<integer> (4)       Copies at once.\n"
+              "-mode=fast | mirror | safe (fast)\n"
+              "                              How to copy.\n"
+              "-v, -verbose | -no-verbose (default)\n"
+              "                              Say more.\n"
+              "-log-file=<string>            Where to log.\n"
+              "-h, -help                     Print this help and exit.\n"
+              "-version                      Print the version and exit.\n"
+              "-completion=bash | zsh | fish Print the completion script for this shell and\n"
+              "                              exit.\n\n"
+              "Arguments:\n"
+              "  <files>...                  What to copy.\n\n"
+              "Report problems to the keeper.\n");
+}
+
+TEST_F(Qsync, HelpWinsOverMissingRequiredValues) { EXPECT_EQ(parseLine(app, {"-h"}).exitCode(), 0); }
+
+TEST_F(Qsync, VersionLine) {
+    quen_3_1::Result const result = parseLine(app, {"--version"});
+    EXPECT_TRUE(result.done());
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(result.message(), "qsync 1.4.2\n");
+}
+
+TEST_F(Qsync, HelpAndVersionGoToStandardOutput) {
+    quen_test::Outputs const written = quen_test::outputsOf([&] { EXPECT_EQ(parseLine(app, {"--vers"}).exit(), 0); });
+    EXPECT_EQ(written.out, "qsync 1.4.2\n");
+    EXPECT_EQ(written.err, "");
+}
+
+TEST_F(Qsync, UnknownOptionGetsSuggestions) {
+    quen_3_1::Result const result = parseLine(app, {"--lgo-file=x", "a"});
+    EXPECT_EQ(result.exitCode(), 2);
+    EXPECT_EQ(result.message(),
+              "qsync: error: Unknown option: --lgo-file=x\n"
+              "Did you mean '--log-file'?\n"
+              "Usage: qsync [options] <files>...\n"
+              "Try 'qsync --help' for more information.\n");
+}
+
+TEST_F(Qsync, AmbiguousOptionGetsSuggestions) {
+    EXPECT_EQ(parseLine(app, {"--ver", "a"}).message(),
+              "qsync: error: Ambiguous option 'ver' in argument: '--ver', could be: 'verbose', 'version'\n"
+              "Did you mean '--verbose' or '--version'?\n"
+              "Usage: qsync [options] <files>...\n"
+              "Try 'qsync --help' for more information.\n");
+}
+
+TEST_F(Qsync, ErrorsGoToStandardErrorWithCodeTwo) {
+    quen_test::Outputs const written = quen_test::outputsOf([&] {
+        EXPECT_EQ(parseLine(app, {"--jobs=99", "a"}).exit(), 2);
+    });
+    EXPECT_EQ(written.out, "");
+    EXPECT_EQ(written.err,
+              "qsync: error: Option 'jobs' does not take '99': the value must be from 1 to 64\n"
+              "Usage: qsync [options] <files>...\n"
+              "Try 'qsync --help' for more information.\n");
+}
+
+TEST_F(Qsync, SuccessIsNotDone) {
+    quen_3_1::Result const result = parseLine(app, {"a"});
+    EXPECT_FALSE(result.done());
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(result.message(), "");
+}
+
+TEST(HelpNames, OwnOptionNamedHKeepsItsName) {
+    quen_3_1::App app("prog");
+    std::string host;
+    app.option("host,h", host, "Where.");
+    EXPECT_EQ(parseLine(app, {"-h", "x"}).exitCode(), 0);
+    EXPECT_EQ(host, "x");
+    EXPECT_EQ(parseLine(app, {"--help"}).exitCode(), 0);
+    EXPECT_TRUE(parseLine(app, {"--help"}).done());
+}
+
+TEST(HelpNames, NoVersionWithoutVersionText) {
+    quen_3_1::App app("prog");
+    EXPECT_EQ(parseLine(app, {"--version"}).message(),
+              "prog: error: Unknown option: --version\n"
+              "Usage: prog [options]\nTry 'prog --help' for more information.\n");
+}
+
+TEST(HelpUsage, OptionalPositionals) {
+    quen_3_1::App app("prog");
+    std::string first;
+    std::vector<int> more;
+    app.positional("first", first, "One.");
+    app.positional("more", more, "Others.");
+    EXPECT_EQ(parseLine(app, {"--help"}).message().substr(0, 43), "Usage: prog [options] [<first>] [<more>...]");
+}
+
+}  // namespace

@@ -1,0 +1,158 @@
+// Values from the command line, the environment and options files, in that
+// order of precedence over the variable's default.
+#include <gtest/gtest.h>
+#include <quen_3_1/app.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "support/app_harness.h"
+
+using quen_test::errorTail;
+using quen_test::parseLine;
+
+namespace {
+
+class Sources : public testing::Test {
+protected:
+    Sources() {
+        app.envPrefix("QAPP_TEST");
+        app.option("jobs,j", jobs, "Workers.").range(1, 64);
+        app.option("mode", mode, "How.").allow({"fast", "mirror"});
+        app.option("verbose", verbose, "More.");
+        app.option("tag", tags, "Labels.");
+        app.option("token", token, "Secret.").env("QAPP_TEST_OWN_TOKEN");
+        app.optionsFile("options-file,f", "Read options from this file.");
+    }
+    void TearDown() override {
+        for (std::string const& name : m_set) {
+            unsetenv(name.c_str());
+        }
+        for (std::string const& path : m_files) {
+            std::remove(path.c_str());
+        }
+    }
+    void setVariable(std::string const& name, std::string const& value) {
+        m_set.push_back(name);
+        setenv(name.c_str(), value.c_str(), 1);
+    }
+    std::string writeFile(std::string const& text) {
+        std::string path = testing::TempDir() + "quen_app_options_" + std::to_string(getpid()) + "_" +
+                           std::to_string(m_files.size()) + ".txt";
+        std::ofstream(path) << text;
+        m_files.push_back(path);
+        return path;
+    }
+
+    quen_3_1::App app{"prog"};
+    int jobs = 4;
+    std::string mode = "fast";
+    bool verbose = false;
+    std::vector<std::string> tags;
+    std::string token;
+
+private:
+    std::vector<std::string> m_set;
+    std::vector<std::string> m_files;
+};
+
+TEST_F(Sources, EnvironmentOverDefault) {
+    setVariable("QAPP_TEST_JOBS", "7");
+    setVariable("QAPP_TEST_VERBOSE", "yes");
+    setVariable("QAPP_TEST_OWN_TOKEN", "abc");
+    quen_3_1::Result const result = parseLine(app, {});
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(jobs, 7);
+    EXPECT_TRUE(verbose);
+    EXPECT_EQ(token, "abc");
+    EXPECT_TRUE(result.given("jobs"));
+    ASSERT_EQ(result.entries("jobs").size(), 1u);
+    EXPECT_EQ(result.entries("jobs")[0].source, quen_3_1::Source::Environment);
+}
+
+TEST_F(Sources, CommandLineOverEnvironment) {
+    setVariable("QAPP_TEST_JOBS", "7");
+    EXPECT_EQ(parseLine(app, {"-j", "2"}).exitCode(), 0);
+    EXPECT_EQ(jobs, 2);
+}
+
+TEST_F(Sources, EnvironmentValueAbbreviatedLikeTyped) {
+    setVariable("QAPP_TEST_MODE", "mi");
+    EXPECT_EQ(parseLine(app, {}).exitCode(), 0);
+    EXPECT_EQ(mode, "mirror");
+}
+
+TEST_F(Sources, ErrorInVariableNamesTheVariableNotAnArgument) {
+    setVariable("QAPP_TEST_JOBS", "7x");
+    EXPECT_EQ(parseLine(app, {}).message(),
+              "prog: error: Environment variable 'QAPP_TEST_JOBS': Option 'jobs' does not take '7x': a whole "
+              "integer is required\n" +
+                  errorTail());
+    setVariable("QAPP_TEST_JOBS", "3");
+    setVariable("QAPP_TEST_MODE", "slow");
+    EXPECT_EQ(parseLine(app, {}).message(),
+              "prog: error: Environment variable 'QAPP_TEST_MODE': Option 'mode' does not allow value 'slow'. "
+              "Possible values follows: 'fast', 'mirror'\n" +
+                  errorTail());
+    EXPECT_EQ(jobs, 4);
+}
+
+TEST_F(Sources, FlagVariableMustBeABoolean) {
+    setVariable("QAPP_TEST_VERBOSE", "maybe");
+    EXPECT_EQ(parseLine(app, {}).message(),
+              "prog: error: Environment variable 'QAPP_TEST_VERBOSE': 'maybe' is not a boolean (1, 0, true, false, "
+              "yes, no, on, off)\n" +
+                  errorTail());
+    setVariable("QAPP_TEST_VERBOSE", "off");
+    verbose = true;
+    EXPECT_EQ(parseLine(app, {}).exitCode(), 0);
+    EXPECT_FALSE(verbose);
+}
+
+TEST_F(Sources, FileBelowEnvironmentAndCommandLine) {
+    std::string const path = writeFile("# settings\n--jobs=9\n--mode\nmirror\n--tag=a\n  --tag=b\n");
+    setVariable("QAPP_TEST_MODE", "fast");
+    quen_3_1::Result const result = parseLine(app, {"-f", path, "--tag=c"});
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(jobs, 9);
+    EXPECT_EQ(mode, "fast");
+    EXPECT_EQ(tags, (std::vector<std::string>{"c"}));
+    EXPECT_EQ(result.entries("jobs")[0].source, quen_3_1::Source::File);
+}
+
+TEST_F(Sources, ErrorInFileNamesFileAndLine) {
+    std::string const path = writeFile("--jobs=9\n\n; comment\n--mode\nslow\n");
+    EXPECT_EQ(parseLine(app, {"--options-file=" + path}).message(),
+              "prog: error: Options file '" + path +
+                  "', line 5: Value validation problem in argument '--mode': Option 'mode' does not allow value "
+                  "'slow'. Possible values follows: 'fast', 'mirror'\n" +
+                  errorTail());
+    std::string const second = writeFile("--jobs=9\n--jobs=0\n");
+    EXPECT_EQ(parseLine(app, {"--options-file=" + second}).message(),
+              "prog: error: Options file '" + second +
+                  "', line 2: Option 'jobs' does not take '0': the value must be from 1 to 64\n" + errorTail());
+    std::string const third = writeFile("--jobs=9\n--nothing\n");
+    EXPECT_EQ(parseLine(app, {"--options-file=" + third}).message(),
+              "prog: error: Options file '" + third + "', line 2: Unknown option: --nothing\n" + errorTail());
+}
+
+TEST_F(Sources, UnreadableFile) {
+    std::string const path = testing::TempDir() + "quen_app_no_such_file.txt";
+    EXPECT_EQ(parseLine(app, {"-f", path}).message(),
+              "prog: error: Can not read options file '" + path + "'\n" + errorTail());
+}
+
+TEST_F(Sources, PrefixWithTrailingUnderscore) {
+    quen_3_1::App other("prog");
+    int level = 0;
+    other.envPrefix("QAPP_TEST_").option("log-level", level, "Depth.");
+    setVariable("QAPP_TEST_LOG_LEVEL", "3");
+    EXPECT_EQ(parseLine(other, {}).exitCode(), 0);
+    EXPECT_EQ(level, 3);
+}
+
+}  // namespace
