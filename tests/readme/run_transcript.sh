@@ -3,6 +3,7 @@
 #   run_transcript.sh PROGRAM TRANSCRIPT
 # A transcript line `$ ./NAME ARGS...` runs PROGRAM with ARGS (quoted as in
 # a shell; a trailing `# exit code N` gives the expected exit code, else 0).
+# `$ VARIABLE=value ./NAME ARGS...` runs it with that environment variable.
 # The lines up to the next `$ ` line are its expected output: standard output
 # followed by standard error, compared exactly.
 set -uo pipefail
@@ -14,22 +15,26 @@ failures=0
 runs=0
 
 check() {
-    local command=$1 expected=$2 code=0 arguments actual status
+    local command=$1 expected=$2 code=0 actual status
     if [[ "$command" =~ ^(.*[^[:space:]])[[:space:]]+#[[:space:]]*exit\ code\ ([0-9]+)$ ]]; then
         command=${BASH_REMATCH[1]}
         code=${BASH_REMATCH[2]}
     fi
-    if [[ "$command" != "./$name" && "$command" != "./$name "* ]]; then
+    local -a argv=() environment=()
+    eval "argv=($command)"
+    while [[ ${#argv[@]} -gt 0 && "${argv[0]}" =~ ^[A-Za-z_][A-Za-z0-9_]*= ]]; do
+        environment+=("${argv[0]}")
+        argv=("${argv[@]:1}")
+    done
+    if [[ ${#argv[@]} -eq 0 || "${argv[0]}" != "./$name" ]]; then
         echo "transcript runs '$command', not ./$name" >&2
         failures=$((failures + 1))
         return
     fi
-    arguments=${command#"./$name"}
-    local -a argv=()
-    eval "argv=($arguments)"
+    argv=("${argv[@]:1}")
     local out err
     out=$(mktemp) err=$(mktemp)
-    "$program" "${argv[@]}" >"$out" 2>"$err"
+    env "${environment[@]}" "$program" "${argv[@]}" >"$out" 2>"$err"
     status=$?
     actual=$(cat "$out" "$err"; echo x)
     actual=${actual%x}
