@@ -48,6 +48,15 @@ struct ElementOf<std::vector<T>> {
 template <class T>
 constexpr bool isNumber = std::is_arithmetic_v<T> && !std::is_same_v<T, bool>;
 
+template <class E>
+constexpr bool isElement =
+    std::is_same_v<E, bool> || std::is_same_v<E, int> || std::is_same_v<E, unsigned> || std::is_same_v<E, long long> ||
+    std::is_same_v<E, unsigned long long> || std::is_same_v<E, double> || std::is_same_v<E, std::string>;
+
+// The types a variable may have: an element, or a std::optional or std::vector of one.
+template <class T>
+using IfBindable = std::enable_if_t<isElement<typename ElementOf<T>::type>>;
+
 }  // namespace app_detail
 
 // A program's (or a subcommand's) options and arguments. Not copyable; the
@@ -63,15 +72,17 @@ public:
     App& version(std::string text);
     // Printed at the end of --help.
     App& epilog(std::string text);
-    // Every option also read from PREFIX_NAME (upper case, '-' as '_').
+    // Every visible option of this App (not its commands) also read from PREFIX_NAME: the
+    // first name in upper case, '-' as '_'; "QSYNC" and "QSYNC_" both give QSYNC_LOG_FILE.
+    // A flag's variable holds 1, 0, true, false, yes, no, on or off.
     App& envPrefix(std::string prefix);
 
     // An option bound to a variable; its value before parsing is the default.
-    template <class T>
+    template <class T, class = app_detail::IfBindable<T>>
     Option<T>& option(std::string names, T& target, std::string help);
 
     // A positional argument; filled in declaration order, a std::vector takes the rest.
-    template <class T>
+    template <class T, class = app_detail::IfBindable<T>>
     Option<T>& positional(std::string name, T& target, std::string help);
 
     // An option whose values are option-text files, read before the command line.
@@ -85,6 +96,9 @@ public:
 
     // Parses argv[1..argc-1]. Never throws for anything a user types, never
     // prints, never exits; the bound variables are set only when it succeeds.
+    // A declaration mistake (a malformed or repeated name, a positional after a
+    // std::vector positional, a relation naming no option) is reported here,
+    // with exit code 70. Not thread-safe: one parse at a time per process.
     Result parse(int argc, char const* const* argv);
 
 private:
@@ -135,7 +149,7 @@ enum class Source : std::uint8_t { CommandLine, Environment, File };
 // One value of one option, as Result::entries() lists them.
 struct Entry {
     std::string name;       // the option's first name
-    std::string text;       // the value text (a value abbreviation written out in full)
+    std::string text;       // the value text (an abbreviated allowed value in full; "1"/"0" for a flag)
     std::int32_t sequence;  // the library's sequence number: command-line order
     Source source;
 };
@@ -176,6 +190,8 @@ private:
 
 // The library holds the instances for every supported type; a host
 // instantiates none of them.
+// The macro argument is a type used as a template argument: it can not be parenthesized.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define QUEN_APP_EXTERN_TYPE(T)                                                                                     \
     extern template class Option<T>;                                                                                \
     extern template Option<T>& App::option<T>(std::string, T&, std::string);                                        \
@@ -196,6 +212,7 @@ QUEN_APP_EXTERN_TYPE(unsigned long long)
 QUEN_APP_EXTERN_TYPE(double)
 QUEN_APP_EXTERN_TYPE(std::string)
 #undef QUEN_APP_EXTERN_TYPE
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace quen_3_1
 

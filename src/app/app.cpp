@@ -16,10 +16,9 @@ namespace app_detail {
 
 namespace {
 
+// The host's handle on a declaration; the App owns it.
 template <class T>
-Option<T>& declare(AppState& app, std::string const& names, T& target, std::string help, bool positional) {
-    auto binding = std::make_unique<TypedBinding<T>>(target);
-    OptionState& state = app.add(names, std::move(help), positional, std::move(binding));
+Option<T>& handOut(OptionState& state) {
     auto handle = std::make_shared<Option<T>>(&state);
     Option<T>& option = *handle;
     state.m_handle = std::move(handle);
@@ -58,22 +57,26 @@ App& App::envPrefix(std::string prefix) {
     return *this;
 }
 
-template <class T>
+template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
-    return app_detail::declare(*m_state, names, target, std::move(help), false);
+    std::unique_ptr<app_detail::Binding> binding = std::make_unique<app_detail::TypedBinding<T>>(target);
+    return app_detail::handOut<T>(m_state->add(std::move(names), std::move(help), false, std::move(binding)));
 }
 
-template <class T>
+template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
-    return app_detail::declare(*m_state, name, target, std::move(help), true);
+    std::unique_ptr<app_detail::Binding> binding = std::make_unique<app_detail::TypedBinding<T>>(target);
+    return app_detail::handOut<T>(m_state->add(std::move(name), std::move(help), true, std::move(binding)));
 }
 
 App& App::optionsFile(std::string names, std::string help) {
-    m_state->addFile(names, std::move(help));
+    m_state->addFile(std::move(names), std::move(help));
     return *this;
 }
 
-App& App::command(std::string name, std::string about) { return m_state->addCommand(name, std::move(about)); }
+App& App::command(std::string name, std::string about) {
+    return m_state->addCommand(std::move(name), std::move(about));
+}
 
 App& App::exclusive(std::vector<std::string> names, bool required) {
     m_state->addExclusive(std::move(names), required);
@@ -93,6 +96,8 @@ Result App::parse(int argc, char const* const* argv) {
     return Result(std::move(data));
 }
 
+// The macro argument is a type used as a template argument: it can not be parenthesized.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define QUEN_APP_INSTANTIATE(T)                                                                                        \
     template Option<T>& App::option<T>(std::string, T&, std::string);                                                  \
     template Option<T>& App::positional<T>(std::string, T&, std::string);                                              \
@@ -108,5 +113,6 @@ QUEN_APP_INSTANTIATE(unsigned long long)
 QUEN_APP_INSTANTIATE(double)
 QUEN_APP_INSTANTIATE(std::string)
 #undef QUEN_APP_INSTANTIATE
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace quen_3_1

@@ -9,8 +9,7 @@ namespace quen_3_1::app_detail {
 
 AppState::AppState(std::string program, std::string about) : m_program(std::move(program)), m_about(std::move(about)) {}
 
-OptionState& AppState::add(std::string const& names, std::string help, bool positional,
-                           std::unique_ptr<Binding> binding) {
+OptionState& AppState::add(std::string names, std::string help, bool positional, std::unique_ptr<Binding> binding) {
     std::vector<std::string> split = splitNameList(names);
     bool const flag = !positional && binding->kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
@@ -25,8 +24,8 @@ OptionState& AppState::add(std::string const& names, std::string help, bool posi
     if (split.empty()) {
         split.push_back(names);
     }
-    auto state =
-        std::make_unique<OptionState>(names, std::move(split), std::move(help), positional, std::move(binding));
+    auto state = std::make_unique<OptionState>(std::move(names), std::move(split), std::move(help), positional,
+                                               std::move(binding));
     OptionState& added = *state;
     if (!ok) {
         m_refused.push_back(std::move(state));
@@ -37,16 +36,16 @@ OptionState& AppState::add(std::string const& names, std::string help, bool posi
     return added;
 }
 
-void AppState::addFile(std::string const& names, std::string help) {
+void AppState::addFile(std::string names, std::string help) {
     std::vector<std::string> split = splitNameList(names);
     if (split.empty()) {
         refuse(text::badName(names));
     } else if (take(split)) {
-        m_files.push_back(FileOption{std::move(split), std::move(help)});
+        m_files.push_back(FileOption{std::move(names), std::move(split), std::move(help)});
     }
 }
 
-App& AppState::addCommand(std::string const& name, std::string about) {
+App& AppState::addCommand(std::string name, std::string about) {
     std::vector<std::string> const split = splitNameList(name);
     if (split.size() != 1) {
         refuse(text::badName(name));
@@ -57,7 +56,7 @@ App& AppState::addCommand(std::string const& name, std::string about) {
         }
     }
     m_commands.push_back(std::make_unique<App>(m_program + " " + name, std::move(about)));
-    AppState::of(*m_commands.back()).m_name = name;
+    AppState::of(*m_commands.back()).m_name = std::move(name);
     return *m_commands.back();
 }
 

@@ -14,6 +14,7 @@
 namespace quen_3_1::app_detail {
 
 struct FileOption {
+    std::string namesText;
     std::vector<std::string> names;
     std::string help;
 };
@@ -29,9 +30,9 @@ public:
 
     // Declares an option or positional; a refused one is kept aside, so that the
     // host may still refine what it got back.
-    OptionState& add(std::string const& names, std::string help, bool positional, std::unique_ptr<Binding> binding);
-    void addFile(std::string const& names, std::string help);
-    App& addCommand(std::string const& name, std::string about);
+    OptionState& add(std::string names, std::string help, bool positional, std::unique_ptr<Binding> binding);
+    void addFile(std::string names, std::string help);
+    App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);
 
     // The state of an App (App keeps it private; this class is its friend).

@@ -13,14 +13,6 @@ char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
 int const kMaxSuggestions = 3;
 
-std::string joined(std::vector<std::string> const& names) {
-    std::string text;
-    for (std::string const& name : names) {
-        text += (text.empty() ? "" : ",") + name;
-    }
-    return text;
-}
-
 // A result released when it goes out of scope.
 struct ResultHandle {
     IParseResult* result = nullptr;
@@ -49,7 +41,7 @@ CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollector) {
         m_gate.watch(*option);
     }
     for (FileOption const& file : app.m_files) {
-        m_parser->option(joined(file.names).c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
+        m_parser->option(file.namesText.c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
     }
     registerBuiltins(app, top);
     m_parser->option(kCollector, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
@@ -102,6 +94,7 @@ int CoreSession::parse(std::vector<std::string> args, Source source, SourceValue
     }
     args.insert(args.begin(), std::string());
     std::vector<char*> argv;
+    argv.reserve(args.size());
     for (std::string& arg : args) {
         argv.push_back(arg.data());
     }

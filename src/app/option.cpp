@@ -73,6 +73,8 @@ Option<T>& Option<T>::hidden() {
     return *this;
 }
 
+// The macro argument is a type used as a template argument: it can not be parenthesized.
+// NOLINTBEGIN(bugprone-macro-parentheses)
 #define QUEN_APP_INSTANTIATE(T)              \
     template class Option<T>;                \
     template class Option<std::optional<T>>; \
@@ -85,5 +87,6 @@ QUEN_APP_INSTANTIATE(unsigned long long)
 QUEN_APP_INSTANTIATE(double)
 QUEN_APP_INSTANTIATE(std::string)
 #undef QUEN_APP_INSTANTIATE
+// NOLINTEND(bugprone-macro-parentheses)
 
 }  // namespace quen_3_1
