@@ -6,69 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "app_host.h"
 #include "workloads.h"
 
 namespace qbench {
 
 namespace {
-
-// One variable per option; only the one of the option's kind is bound.
-struct Slot {
-    int integer = 0;
-    double real = 0;
-    std::string text;
-    bool flag = false;
-};
-
-// `slots` must not grow afterwards: the App keeps references into it.
-void declare(quen_3_1::App& app, Workload const& w, std::vector<Slot>& slots) {
-    for (std::size_t k = 0; k < w.options.size(); ++k) {
-        OptionSpec const& option = w.options[k];
-        Slot& slot = slots[k];
-        switch (option.kind) {
-            case Kind::Int:
-                app.option(option.name, slot.integer, "A benchmark option.");
-                break;
-            case Kind::Double:
-                app.option(option.name, slot.real, "A benchmark option.");
-                break;
-            case Kind::String:
-                app.option(option.name, slot.text, "A benchmark option.");
-                break;
-            case Kind::Flag:
-                app.option(option.name, slot.flag, "A benchmark option.");
-                break;
-        }
-    }
-}
-
-Checksum readBack(quen_3_1::Result const& result, Workload const& w, std::vector<Slot> const& slots) {
-    Checksum sum;
-    for (std::size_t k = 0; k < w.options.size(); ++k) {
-        Slot const& slot = slots[k];
-        if (!result.given(w.options[k].name)) {
-            sum.addAbsent();
-            continue;
-        }
-        switch (w.options[k].kind) {
-            case Kind::Int:
-                sum.addInt(slot.integer);
-                break;
-            case Kind::Double:
-                sum.addDouble(slot.real);
-                break;
-            case Kind::String:
-                sum.addText(slot.text);
-                break;
-            case Kind::Flag:
-                if (slot.flag) {
-                    sum.addFlag();
-                }
-                break;
-        }
-    }
-    return sum;
-}
 
 void startup(benchmark::State& state) {
     Workload const w = startupWorkload();
