@@ -175,10 +175,11 @@ public:
     // The arguments after "--" that no positional took.
     std::vector<std::string> const& rest() const;
 
-    // Every value of every option that took effect (the command line's, else the
-    // environment's, else the files'), ordered by sequence number. Owned by the result.
+    // Every value of every option and positional that took effect (the command line's, else the
+    // environment's, else the files'), by sequence number. Owned by the result; safe from any thread.
     std::vector<Entry> const& entries() const;
-    // The entries of one option (by any of its names), in order; a copy the caller owns.
+    // The entries of one option (by any of its names), in order: a copy the caller owns.
+    // Nothing when no option has that name. Safe from any thread.
     std::vector<Entry> entries(std::string const& name) const;
 
     // Made by App::parse only.
