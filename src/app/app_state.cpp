@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/collector_name.h"
 #include "app/messages.h"
 #include "app/name_list.h"
 
@@ -88,6 +89,10 @@ std::string AppState::mistake() const {
 
 bool AppState::take(std::vector<std::string> const& names) {
     for (std::string const& name : names) {
+        if (name == kCollectorName) {
+            refuse(text::reservedName(name));
+            return false;
+        }
         if (m_taken.count(name) != 0) {
             refuse(text::declaredTwice(name));
             return false;

@@ -20,8 +20,6 @@ public:
     virtual tarvo2::kel_variant_type_t kind() const = 0;
     // A std::vector: every value is kept, and a positional takes all the rest.
     virtual bool takesMany() const = 0;
-    // A std::optional or a std::vector: nothing to show as a default.
-    virtual bool hasDefault() const = 0;
     // Hands the default and the allowed values to the library's option.
     virtual void describe(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise.

@@ -1,5 +1,6 @@
 #include "app/core_session.h"
 
+#include "app/collector_name.h"
 #include "app/messages.h"
 #include "quen_3_1/extras.h"
 
@@ -7,7 +8,6 @@ namespace quen_3_1::app_detail {
 
 namespace {
 
-char const kCollector[] = "quen-app-arguments";
 char const kHiddenGroup[] = "quen_hidden";
 char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
@@ -28,7 +28,7 @@ struct ResultHandle {
 
 }  // namespace
 
-CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollector) {
+CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollectorName) {
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
@@ -44,7 +44,7 @@ CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollector) {
         m_parser->option(file.namesText.c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
     }
     registerBuiltins(app, top);
-    m_parser->option(kCollector, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
     m_parser->addHandler(&m_gate);
 }
 
@@ -54,7 +54,7 @@ CoreSession::~CoreSession() {
     }
 }
 
-char const* CoreSession::collector() { return kCollector; }
+char const* CoreSession::collector() { return kCollectorName; }
 
 void CoreSession::registerOption(OptionState const& option) {
     IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
@@ -90,7 +90,7 @@ int CoreSession::parse(std::vector<std::string> args, Source source, SourceValue
     }
     // The library would switch its trace on for this first argument; the layer never prints.
     if (!args.empty() && args[0] == kTraceSwitch) {
-        args[0] = std::string("--") + kCollector + "=" + args[0];
+        args[0] = std::string("--") + kCollectorName + "=" + args[0];
     }
     args.insert(args.begin(), std::string());
     std::vector<char*> argv;

@@ -81,10 +81,6 @@ std::string notBoolean(std::string const& value) {
     return "'" + value + "' is not a boolean (1, 0, true, false, yes, no, on, off)";
 }
 
-std::string unknownShell(std::string const& shell) {
-    return "No completion for shell '" + shell + "' (bash, zsh or fish)";
-}
-
 std::string badDeclaration(std::string const& what) { return "bad declaration: " + what; }
 
 std::string badName(std::string const& names) {
@@ -94,6 +90,10 @@ std::string badName(std::string const& names) {
 }
 
 std::string declaredTwice(std::string const& name) { return "the name '" + name + "' is declared twice"; }
+
+std::string reservedName(std::string const& name) {
+    return "the name '" + name + "' is reserved for the plain arguments";
+}
 
 std::string positionalAfterVector(std::string const& name) {
     return "the positional '" + name + "' follows a positional that takes all the remaining arguments";

@@ -31,12 +31,12 @@ std::string inFile(std::string const& path, std::size_t line, std::string const&
 std::string unreadableFile(std::string const& path);
 std::string inVariable(std::string const& variable, std::string const& message);
 std::string notBoolean(std::string const& value);
-std::string unknownShell(std::string const& shell);
 
 // Mistakes in the program's declarations, reported by parse with kDeclarationExitCode.
 std::string badDeclaration(std::string const& what);
 std::string badName(std::string const& names);
 std::string declaredTwice(std::string const& name);
+std::string reservedName(std::string const& name);
 std::string positionalAfterVector(std::string const& name);
 std::string unknownReference(std::string const& name);
 std::string emptyRange(std::string const& option);

@@ -57,7 +57,6 @@ public:
 
     tarvo2::kel_variant_type_t kind() const override { return kindOf<Element>(); }
     bool takesMany() const override { return isVector; }
-    bool hasDefault() const override { return !isVector && !isOptional; }
 
     void describe(IOption& option) const override {
         for (Element const& value : m_allowed) {

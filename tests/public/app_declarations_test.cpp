@@ -83,6 +83,11 @@ TEST(DeclarationMistakes, NameDeclaredTwice) {
         "the name 'v' is declared twice");
 }
 
+TEST(DeclarationMistakes, ReservedName) {
+    expectMistake([](quen_3_1::App& app) { app.option("quen-app-arguments", g_text, "A."); },
+                  "the name 'quen-app-arguments' is reserved for the plain arguments");
+}
+
 TEST(DeclarationMistakes, FlagNegationClashes) {
     bool flag = false;
     expectMistake(
