@@ -3,7 +3,8 @@
 // warm-up iteration), so that `bench/count` can report instructions per unit:
 // a figure that, unlike time, does not depend on the load of the machine.
 //   quen_instructions WORKLOAD ITERATIONS
-// WORKLOAD: W1, W2 (N = 1,000), W2-100k, W3, W4 (10,000 lines), W5-log-f, W5-l-f.
+// WORKLOAD: W1, W2 (N = 1,000), W2-100k, W3, W4 (10,000 lines), W5-log-f, W5-l-f,
+// W1-app (W1 declared through the application layer).
 // Prints the number of units per iteration; exits 1 on a wrong read-back.
 #include <valgrind/callgrind.h>
 
@@ -11,7 +12,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <vector>
 
+#include "app_host.h"
 #include "quen_host.h"
 #include "workloads.h"
 
@@ -25,16 +28,18 @@ struct Case {
     Workload (*make)();
     bool startup;  // parser declared in every iteration
     bool text;     // parsed as an option text
+    bool app;      // declared and parsed through App (startup only)
 };
 
 Case const kCases[] = {
-    {"W1", [] { return qbench::startupWorkload(); }, true, false},
-    {"W2", [] { return qbench::manyArgumentsWorkload(1000); }, false, false},
-    {"W2-100k", [] { return qbench::manyArgumentsWorkload(100000); }, false, false},
-    {"W3", [] { return qbench::manyOptionsWorkload(1000); }, false, false},
-    {"W4", [] { return qbench::manyArgumentsWorkload(10000); }, false, true},
-    {"W5-log-f", [] { return qbench::abbreviationWorkload(1000, false); }, false, false},
-    {"W5-l-f", [] { return qbench::abbreviationWorkload(1000, true); }, false, false},
+    {"W1", [] { return qbench::startupWorkload(); }, true, false, false},
+    {"W2", [] { return qbench::manyArgumentsWorkload(1000); }, false, false, false},
+    {"W2-100k", [] { return qbench::manyArgumentsWorkload(100000); }, false, false, false},
+    {"W3", [] { return qbench::manyOptionsWorkload(1000); }, false, false, false},
+    {"W4", [] { return qbench::manyArgumentsWorkload(10000); }, false, true, false},
+    {"W5-log-f", [] { return qbench::abbreviationWorkload(1000, false); }, false, false, false},
+    {"W5-l-f", [] { return qbench::abbreviationWorkload(1000, true); }, false, false, false},
+    {"W1-app", [] { return qbench::startupWorkload(); }, true, false, true},
 };
 
 Case const* findCase(char const* name) {
@@ -46,9 +51,21 @@ Case const* findCase(char const* name) {
     return nullptr;
 }
 
+// One iteration of W1 through App, as bench_app.cpp runs it.
+bool iterateApp(Workload const& w, qbench::CommandLine& line, Checksum const& expected) {
+    quen_3_1::App app("bench");
+    std::vector<qbench::Slot> slots(w.options.size());
+    qbench::declare(app, w, slots);
+    quen_3_1::Result const result = app.parse(line.argc(), line.argv());
+    return !result.done() && qbench::readBack(result, w, slots) == expected;
+}
+
 // One iteration as the benchmark runs it; false when the values read back are wrong.
 bool iterate(Case const& c, Workload const& w, quen_3_1::IParser* declared, qbench::CommandLine& line,
              std::string const& text, Checksum const& expected) {
+    if (c.app) {
+        return iterateApp(w, line, expected);
+    }
     quen_3_1::IParser* const parser = c.startup ? qbench::makeParser(w) : declared;
     quen_3_1::IParseResult* result = nullptr;
     parser->createResult(&result);
@@ -68,7 +85,7 @@ int main(int argc, char** argv) {
     Case const* const c = argc == 3 ? findCase(argv[1]) : nullptr;
     int const iterations = argc == 3 ? std::atoi(argv[2]) : 0;
     if (c == nullptr || iterations < 1) {
-        std::fprintf(stderr, "usage: quen_instructions W1|W2|W2-100k|W3|W4|W5-log-f|W5-l-f ITERATIONS\n");
+        std::fprintf(stderr, "usage: quen_instructions W1|W2|W2-100k|W3|W4|W5-log-f|W5-l-f|W1-app ITERATIONS\n");
         return 2;
     }
     Workload const w = c->make();

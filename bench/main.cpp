@@ -2,7 +2,8 @@
 // per unit (the lowest of the repetitions' wall-clock times: other work on a
 // shared machine only ever adds to it, while the CPU time a loaded virtual
 // machine reports can fall below the work done), the ratio of quen_3_1 to the
-// fastest of CLI11, cxxopts and Boost.PO, and to getopt_long as the floor.
+// fastest of CLI11, cxxopts and Boost.PO, and to getopt_long as the floor;
+// then W1 through the application layer against W1 through quen.h.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -73,6 +74,7 @@ public:
             out << " " << ratio(ours, fastest, fastestName) << " | "
                 << ratio(ours, value(row.workload + "/getopt_long"), "") << " |\n";
         }
+        printLayerRow(out);
         for (auto const& error : m_errors) {
             out << "\nFAILED " << error.first << ": " << error.second << "\n";
         }
@@ -81,6 +83,15 @@ public:
     bool failed() const { return !m_errors.empty(); }
 
 private:
+    // The same tool through the application layer and through quen.h.
+    void printLayerRow(std::ostream& out) const {
+        std::string const viaHeader = "W1/quen_3_1";
+        std::string const viaApp = std::string("W1/") + qbench::kAppLayer;
+        out << "\n| workload | unit | quen.h | App | App / quen.h |\n|---|---|---:|---:|---:|\n";
+        out << "| W1 start-up through the application layer | ns/run | " << cell(viaHeader) << " | " << cell(viaApp)
+            << " | " << ratio(value(viaApp), value(viaHeader), "") << " |\n";
+    }
+
     static double multiplier(benchmark::TimeUnit unit) {
         switch (unit) {
             case benchmark::kSecond:
@@ -140,6 +151,7 @@ private:
 
 int main(int argc, char** argv) {
     qbench::registerQuen();
+    qbench::registerApp();
     qbench::registerCli11();
     qbench::registerCxxopts();
     qbench::registerBoost();

@@ -106,7 +106,11 @@ struct Row {
 std::vector<Row> const& rows();
 std::vector<std::string> const& libraries();
 
+// The library column of W1 through the application layer (bench_app.cpp).
+inline constexpr char kAppLayer[] = "quen_3_1 App";
+
 void registerQuen();
+void registerApp();
 void registerCli11();
 void registerCxxopts();
 void registerBoost();

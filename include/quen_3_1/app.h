@@ -98,7 +98,8 @@ public:
     // prints, never exits; the bound variables are set only when it succeeds.
     // A declaration mistake (a malformed or repeated name, a positional after a
     // std::vector positional, a relation naming no option) is reported here,
-    // with exit code 70. Not thread-safe: one parse at a time per process.
+    // with exit code 70. Apps on different threads may parse at once; one App
+    // is used by one thread at a time (environment variables are read, never set).
     Result parse(int argc, char const* const* argv);
 
 private:

@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "quen_3_1/app.h"
 #include "support/internal_fixture.h"
 
 using quen_3_1::BasicParser;
@@ -80,7 +81,45 @@ void work(int thread, int count, int& failures) {
     }
 }
 
+// One thread's work through the application layer: its own App per parse,
+// values bound to its own variables, entries in increasing order.
+void workThroughApp(int thread, int count, int& failures) {
+    std::string const tag = "t" + std::to_string(thread);
+    for (int i = 0; i < count; ++i) {
+        quen_3_1::App app("prog");
+        int jobs = 1;
+        std::vector<std::string> files;
+        app.option("jobs,j", jobs, "Copies at once.").range(1, 64);
+        app.positional("files", files, "What to copy.");
+        char const* const argv[] = {"prog", "--jobs=8", tag.c_str(), "b", "--j", "9"};
+        quen_3_1::Result const result = app.parse(6, argv);
+        std::vector<quen_3_1::Entry> const& entries = result.entries();
+        bool ordered = entries.size() == 4;
+        for (std::size_t e = 1; ordered && e < entries.size(); ++e) {
+            ordered = entries[e].sequence > entries[e - 1].sequence;
+        }
+        if (result.done() || jobs != 9 || files != std::vector<std::string>{tag, "b"} || !ordered) {
+            ++failures;
+        }
+    }
+}
+
 }  // namespace
+
+TEST(ThreadSafety, AppsOnDifferentThreadsParseOnTheirOwn) {
+    int const count = rounds() / 10;
+    std::vector<int> failures(kThreads, 0);
+    std::vector<std::thread> threads;
+    for (int t = 0; t < kThreads; ++t) {
+        threads.emplace_back(workThroughApp, t, count, std::ref(failures[static_cast<std::size_t>(t)]));
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (int t = 0; t < kThreads; ++t) {
+        EXPECT_EQ(failures[static_cast<std::size_t>(t)], 0) << "thread " << t;
+    }
+}
 
 TEST(ThreadSafety, IndependentParsersNumberAndTraceOnTheirOwn) {
     int const count = rounds();
