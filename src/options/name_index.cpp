@@ -18,8 +18,7 @@ void NameIndex::insert(Candidate candidate) {
     std::size_t const id = m_candidates.size();
     m_candidates.push_back(std::move(candidate));
     m_nextSame.push_back(npos);
-    std::string_view const text(m_candidates.back().text);
-    link(m_named.try_emplace(text, Chain{npos, npos}).first->second, id, m_nextSame);
+    link(m_named.findOrAdd(m_candidates.back().text, textOf()), id, m_nextSame);
 }
 
 // Links the candidates added since the last call. link() places each by
@@ -76,8 +75,8 @@ void NameIndex::link(Chain& chain, std::size_t id, std::vector<std::size_t>& nex
 }
 
 std::size_t NameIndex::firstNamed(std::string_view name) const {
-    auto const found = m_named.find(name);
-    return found == m_named.end() ? npos : found->second.head;
+    Chain const* const chain = m_named.find(name, textOf());
+    return chain == nullptr ? npos : chain->head;
 }
 
 // The first parts that begin with `first` are one run of the ordered map.

@@ -7,10 +7,9 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
-#include "values/text_hash.h"
+#include "options/chain_table.h"
 
 namespace quen_3_1 {
 
@@ -51,19 +50,20 @@ public:
     std::size_t size() const { return m_candidates.size(); }
 
 private:
-    struct Chain {
-        std::size_t head;
-        std::size_t tail;
-    };
+    using Chain = ChainTable::Chain;
 
     void insert(Candidate candidate);
     void linkShapes() const;
     bool before(std::size_t a, std::size_t b) const;
+    // The text of a candidate, as the chain table reads its keys.
+    auto textOf() const {
+        return [this](std::size_t id) { return std::string_view(m_candidates[id].text); };
+    }
     void link(Chain& chain, std::size_t id, std::vector<std::size_t>& next) const;
 
     // A deque, so that the keys below can view the candidates' texts.
     std::deque<Candidate> m_candidates;
-    std::unordered_map<std::string_view, Chain, TextHash> m_named;
+    ChainTable m_named;
     std::vector<std::size_t> m_nextSame;  // by candidate: next with the same text
     // By number of parts, then by first part, and by candidate the next one
     // of the same shape: filled in lazily for the candidates added since.
