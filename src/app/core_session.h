@@ -39,6 +39,11 @@ public:
     // The library's help text of the registered options.
     std::string description();
 
+    // Numbers recorded from now on are greater than `sequence`.
+    void startAfter(std::int32_t sequence) { m_gate.startAfter(sequence); }
+    // The greatest number recorded so far.
+    std::int32_t lastSequence() const { return m_gate.lastSequence(); }
+
     BuiltinNames const& builtins() const { return m_builtins; }
     static char const* collector();
 

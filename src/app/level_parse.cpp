@@ -36,7 +36,12 @@ LevelParse::LevelParse(AppState& app, AppState const& root) : m_app(app), m_root
 
 bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
+    // A command's arguments are numbered after everything its parents took.
+    for (Entry const& entry : out.m_entries) {
+        m_session.startAfter(entry.sequence);
+    }
     int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
+    m_lineEnd = m_session.lastSequence();
     if (stopAtBuiltin(out)) {
         return false;
     }
@@ -212,9 +217,11 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     OptionValues const* collected = winner(CoreSession::collector());
     std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
     std::size_t const beforeTerminator = plain.size();
-    std::int32_t const last = plain.empty() ? 0 : plain.back().sequence;
+    // The library numbers each argument after "--" in turn once the others are
+    // parsed but does not hand the numbers out: these follow the last value's.
+    std::int32_t sequence = m_lineEnd;
     for (std::string const& text : m_rest) {
-        plain.push_back(Entry{std::string(), text, last, Source::CommandLine});
+        plain.push_back(Entry{std::string(), text, ++sequence, Source::CommandLine});
     }
     std::size_t next = 0;
     for (auto const& option : m_app.m_options) {

@@ -53,6 +53,8 @@ private:
     SourceValues m_environment;
     SourceValues m_files;
     std::vector<std::string> m_rest;
+    // The last number of the command line's values, before what follows "--".
+    std::int32_t m_lineEnd = 0;
     std::map<std::string, std::size_t> m_positionalCounts;
 };
 
