@@ -28,7 +28,7 @@ struct ResultHandle {
 
 }  // namespace
 
-CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollectorName) {
+CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_gate(kCollectorName) {
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
@@ -36,7 +36,7 @@ CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollectorName)
     }
     for (auto const& option : app.m_options) {
         if (!option->positional()) {
-            registerOption(*option);
+            registerOption(*option, showDefaults);
         }
         m_gate.watch(*option);
     }
@@ -56,11 +56,14 @@ CoreSession::~CoreSession() {
 
 char const* CoreSession::collector() { return kCollectorName; }
 
-void CoreSession::registerOption(OptionState const& option) {
+void CoreSession::registerOption(OptionState const& option, bool showDefault) {
     IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
                                          option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
     option.binding().describe(*declared);
+    if (showDefault) {
+        option.binding().showDefault(*declared);
+    }
 }
 
 void CoreSession::registerBuiltins(AppState const& app, bool top) {
@@ -128,6 +131,9 @@ std::string CoreSession::failedArgument(std::string const& error) const {
     return m_gate.unknown();
 }
 
-std::string CoreSession::description() { return m_parser == nullptr ? std::string() : m_parser->getDescription(false); }
+std::string CoreSession::description(AppState const& app, bool top) {
+    CoreSession const session(app, top, true);
+    return session.m_parser == nullptr ? std::string() : session.m_parser->getDescription(false);
+}
 
 }  // namespace quen_3_1::app_detail

@@ -60,7 +60,7 @@ bool LevelParse::stopAtBuiltin(ResultData& out) {
     BuiltinNames const& builtins = m_session.builtins();
     auto const given = [&](std::string const& name) { return !name.empty() && m_line.count(name) != 0; };
     if (given(builtins.help)) {
-        out.m_message = helpText(m_app, m_session.description());
+        out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
     } else if (given(builtins.version)) {
         out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
     } else if (given(builtins.completion) && !m_line[builtins.completion].entries.empty()) {
@@ -194,11 +194,11 @@ bool LevelParse::given(std::string const& name) const {
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     for (auto const& option : m_app.m_options) {
         if (option->positional()) {
-            out.m_counts.push_back(CountedOption{option->names(), m_positionalCounts[option->name()]});
+            out.m_counts.push_back(CountedOption{option->sharedNames(), m_positionalCounts[option->name()]});
             continue;
         }
         OptionValues const* values = winner(option->name());
-        out.m_counts.push_back(CountedOption{option->names(), values == nullptr ? 0 : values->count});
+        out.m_counts.push_back(CountedOption{option->sharedNames(), values == nullptr ? 0 : values->count});
         if (values != nullptr) {
             out.m_entries.insert(out.m_entries.end(), values->entries.begin(), values->entries.end());
             commits.push_back(Commit{&option->binding(), textsOf(*values)});
@@ -206,7 +206,8 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     }
     for (FileOption const& file : m_app.m_files) {
         auto const found = m_line.find(file.names.front());
-        out.m_counts.push_back(CountedOption{file.names, found == m_line.end() ? 0 : found->second.count});
+        out.m_counts.push_back(CountedOption{std::make_shared<std::vector<std::string> const>(file.names),
+                                             found == m_line.end() ? 0 : found->second.count});
     }
 }
 
@@ -257,10 +258,15 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 
 bool LevelParse::checkRelations(ResultData& out) const {
     for (auto const& option : m_app.m_options) {
-        if (option->m_required && !given(option->name())) {
+        bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
+        if (!option->m_required && !relates) {
+            continue;
+        }
+        bool const present = given(option->name());
+        if (option->m_required && !present) {
             return fail(out, text::required(option->name()));
         }
-        if (!given(option->name())) {
+        if (!present) {
             continue;
         }
         for (std::string const& other : option->m_needs) {
