@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "app/command_match.h"
+#include "app/command_suggestion.h"
 #include "app/completion_tree.h"
 #include "app/help_text.h"
 #include "app/library_reason.h"
@@ -14,6 +15,8 @@
 namespace quen_3_1::app_detail {
 
 namespace {
+
+std::size_t const kMaxCommandSuggestions = 3;
 
 char const* const kTrueWords[] = {"1", "true", "yes", "on"};
 char const* const kFalseWords[] = {"0", "false", "no", "off"};
@@ -47,7 +50,8 @@ bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std:
     }
     if (code != 0) {
         std::string const argument = m_session.failedArgument(error);
-        return fail(out, error, argument.empty() ? std::vector<std::string>() : m_session.suggestions(argument));
+        return fail(out, error,
+                    argument.empty() ? std::string() : text::didYouMean(m_session.suggestions(argument), "--"));
     }
     if (!readFiles(out) || !readEnvironment(out) || !fillPositionals(out, commits) || !checkRelations(out)) {
         return false;
@@ -73,13 +77,12 @@ bool LevelParse::stopAtBuiltin(ResultData& out) {
     return true;
 }
 
-bool LevelParse::fail(ResultData& out, std::string const& message, std::vector<std::string> const& suggestions) const {
+bool LevelParse::fail(ResultData& out, std::string const& message, std::string const& hint) const {
     out.m_done = true;
     out.m_exitCode = kUsageExitCode;
     out.m_toStandardOutput = false;
-    out.m_message = text::errorLine(m_app.m_program, message) +
-                    (suggestions.empty() ? std::string() : text::didYouMean(suggestions)) + usageLine(m_app) +
-                    text::tryHelpLine(m_app.m_program);
+    out.m_message =
+        text::errorLine(m_app.m_program, message) + hint + usageLine(m_app) + text::tryHelpLine(m_app.m_program);
     return false;
 }
 
@@ -308,9 +311,12 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
         names.push_back(AppState::of(*command).m_name);
     }
     std::vector<std::string> const matches = matchCommand(plain.front().text, names);
+    if (matches.empty()) {
+        return fail(out, text::unknownCommand(plain.front().text),
+                    text::didYouMean(nearCommands(plain.front().text, names, kMaxCommandSuggestions), ""));
+    }
     if (matches.size() != 1) {
-        return fail(out, matches.empty() ? text::unknownCommand(plain.front().text)
-                                         : text::ambiguousCommand(plain.front().text, matches));
+        return fail(out, text::ambiguousCommand(plain.front().text, matches));
     }
     std::vector<std::string> args;
     for (auto entry = plain.begin() + 1; entry != plain.end(); ++entry) {
