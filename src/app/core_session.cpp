@@ -34,14 +34,19 @@ CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_g
         m_parser = nullptr;
         return;
     }
-    for (auto const& option : app.m_options) {
-        if (!option->positional()) {
-            registerOption(*option, showDefaults);
+    auto file = app.m_files.begin();
+    for (std::size_t i = 0; i <= app.m_options.size(); ++i) {
+        for (; file != app.m_files.end() && file->position == i; ++file) {
+            m_parser->option(file->namesText.c_str(), file->help.c_str(), tarvo2::vt_str, "")->tokenize(0);
         }
-        m_gate.watch(*option);
-    }
-    for (FileOption const& file : app.m_files) {
-        m_parser->option(file.namesText.c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
+        if (i == app.m_options.size()) {
+            break;
+        }
+        OptionState const& option = *app.m_options[i];
+        if (!option.positional()) {
+            registerOption(option, showDefaults);
+        }
+        m_gate.watch(option);
     }
     registerBuiltins(app, top);
     m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
