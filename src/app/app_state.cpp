@@ -42,7 +42,7 @@ void AppState::addFile(std::string names, std::string help) {
     if (split.empty()) {
         refuse(text::badName(names));
     } else if (take(split)) {
-        m_files.push_back(FileOption{std::move(names), std::move(split), std::move(help)});
+        m_files.push_back(FileOption{std::move(names), std::move(split), std::move(help), m_options.size()});
     }
 }
 

@@ -17,6 +17,8 @@ struct FileOption {
     std::string namesText;
     std::vector<std::string> names;
     std::string help;
+    // How many options were declared before it: the help lists it among them in that order.
+    std::size_t position;
 };
 
 struct ExclusiveGroup {

@@ -20,8 +20,11 @@ public:
     virtual tarvo2::kel_variant_type_t kind() const = 0;
     // A std::vector: every value is kept, and a positional takes all the rest.
     virtual bool takesMany() const = 0;
-    // Hands the default and the allowed values to the library's option.
+    // Hands the allowed values to the library's option.
     virtual void describe(IOption& option) const = 0;
+    // Hands the variable's value to the library's option as its default, for the help text only:
+    // the layer leaves a variable alone when nothing gives it a value.
+    virtual void showDefault(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise.
     virtual std::string check(std::string const& option, std::string const& text) const = 0;
     // Stores checked values in the variable (the last one unless it takes many).

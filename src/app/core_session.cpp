@@ -28,20 +28,25 @@ struct ResultHandle {
 
 }  // namespace
 
-CoreSession::CoreSession(AppState const& app, bool top) : m_gate(kCollectorName) {
+CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_gate(kCollectorName) {
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
         return;
     }
-    for (auto const& option : app.m_options) {
-        if (!option->positional()) {
-            registerOption(*option);
+    auto file = app.m_files.begin();
+    for (std::size_t i = 0; i <= app.m_options.size(); ++i) {
+        for (; file != app.m_files.end() && file->position == i; ++file) {
+            m_parser->option(file->namesText.c_str(), file->help.c_str(), tarvo2::vt_str, "")->tokenize(0);
         }
-        m_gate.watch(*option);
-    }
-    for (FileOption const& file : app.m_files) {
-        m_parser->option(file.namesText.c_str(), file.help.c_str(), tarvo2::vt_str, "")->tokenize(0);
+        if (i == app.m_options.size()) {
+            break;
+        }
+        OptionState const& option = *app.m_options[i];
+        if (!option.positional()) {
+            registerOption(option, showDefaults);
+        }
+        m_gate.watch(option);
     }
     registerBuiltins(app, top);
     m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
@@ -56,11 +61,14 @@ CoreSession::~CoreSession() {
 
 char const* CoreSession::collector() { return kCollectorName; }
 
-void CoreSession::registerOption(OptionState const& option) {
+void CoreSession::registerOption(OptionState const& option, bool showDefault) {
     IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
                                          option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
     option.binding().describe(*declared);
+    if (showDefault) {
+        option.binding().showDefault(*declared);
+    }
 }
 
 void CoreSession::registerBuiltins(AppState const& app, bool top) {
@@ -128,6 +136,9 @@ std::string CoreSession::failedArgument(std::string const& error) const {
     return m_gate.unknown();
 }
 
-std::string CoreSession::description() { return m_parser == nullptr ? std::string() : m_parser->getDescription(false); }
+std::string CoreSession::description(AppState const& app, bool top) {
+    CoreSession const session(app, top, true);
+    return session.m_parser == nullptr ? std::string() : session.m_parser->getDescription(false);
+}
 
 }  // namespace quen_3_1::app_detail

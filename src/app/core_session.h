@@ -21,8 +21,9 @@ struct BuiltinNames {
 
 class CoreSession {
 public:
-    // `top`: the App is the program itself (it gets --completion).
-    CoreSession(AppState const& app, bool top);
+    // `top`: the App is the program itself (it gets --completion). `showDefaults`: the options
+    // carry their variables' values as defaults, which only the help text shows.
+    CoreSession(AppState const& app, bool top, bool showDefaults = false);
     CoreSession(CoreSession const&) = delete;
     CoreSession& operator=(CoreSession const&) = delete;
     ~CoreSession();
@@ -36,14 +37,19 @@ public:
     std::vector<std::string> suggestions(std::string const& argument);
     // The option argument that `error` (from parse) is about, for suggestions; empty for other errors.
     std::string failedArgument(std::string const& error) const;
-    // The library's help text of the registered options.
-    std::string description();
+    // The library's help text of the options of `app`, with their defaults.
+    static std::string description(AppState const& app, bool top);
+
+    // Numbers recorded from now on are greater than `sequence`.
+    void startAfter(std::int32_t sequence) { m_gate.startAfter(sequence); }
+    // The greatest number recorded so far.
+    std::int32_t lastSequence() const { return m_gate.lastSequence(); }
 
     BuiltinNames const& builtins() const { return m_builtins; }
     static char const* collector();
 
 private:
-    void registerOption(OptionState const& option);
+    void registerOption(OptionState const& option, bool showDefault);
     void registerBuiltins(AppState const& app, bool top);
 
     IParser* m_parser = nullptr;

@@ -1,13 +1,16 @@
 #include "app/help_text.h"
 
+#include <algorithm>
+
 #include "app/messages.h"
 
 namespace quen_3_1::app_detail {
 
 namespace {
 
-// The column at which the library starts option descriptions.
+// The column at which the library starts option descriptions, and the width it wraps them to.
 std::size_t const kDescriptionColumn = 30;
+std::size_t const kDescriptionWidth = 50;
 
 std::string positionalUsage(OptionState const& option) {
     std::string usage = "<" + option.name() + ">";
@@ -17,12 +20,39 @@ std::string positionalUsage(OptionState const& option) {
     return option.m_required ? usage : "[" + usage + "]";
 }
 
-// A name and its description, in the library's columns.
-std::string row(std::string const& name, std::string const& description) {
+// The longest start of `text` that goes on one line: up to a line break or the
+// width, and, when that would split a word, up to the last blank before it (a
+// word longer than the line is cut).
+std::size_t lineLength(std::string const& text) {
+    std::size_t const limit = kDescriptionWidth - 1;
+    std::size_t const end = std::min(text.find('\n'), limit);
+    bool const splitsWord = end < text.size() && text[end] != ' ' && text[end] != '\n' && text[end - 1] != ' ';
+    if (!splitsWord) {
+        return end;
+    }
+    std::size_t const blank = text.rfind(' ', end);
+    return blank == std::string::npos ? end : blank;
+}
+
+// A name and its description, in the library's columns, wrapped as the library wraps
+// option descriptions; a name too long for its column gets a line of its own.
+std::string row(std::string const& name, std::string description) {
     std::string line = "  " + name;
-    line += line.size() < kDescriptionColumn ? std::string(kDescriptionColumn - line.size(), ' ')
-                                             : "\n" + std::string(kDescriptionColumn, ' ');
-    return line + description + "\n";
+    std::string rows;
+    if (line.size() >= kDescriptionColumn) {
+        rows = line + "\n";
+        line.clear();
+    }
+    do {
+        description.erase(0, description.find_first_not_of(" \n"));
+        std::size_t const length = lineLength(description);
+        line.resize(kDescriptionColumn, ' ');
+        rows += line + description.substr(0, length) + "\n";
+        description.erase(0, length);
+        description.erase(0, description.find_first_not_of(" \n"));
+        line.clear();
+    } while (!description.empty());
+    return rows;
 }
 
 std::string section(char const* heading, std::string const& rows) {

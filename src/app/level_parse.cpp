@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "app/command_match.h"
+#include "app/command_suggestion.h"
 #include "app/completion_tree.h"
 #include "app/help_text.h"
 #include "app/library_reason.h"
@@ -14,6 +15,8 @@
 namespace quen_3_1::app_detail {
 
 namespace {
+
+std::size_t const kMaxCommandSuggestions = 3;
 
 char const* const kTrueWords[] = {"1", "true", "yes", "on"};
 char const* const kFalseWords[] = {"0", "false", "no", "off"};
@@ -36,13 +39,19 @@ LevelParse::LevelParse(AppState& app, AppState const& root) : m_app(app), m_root
 
 bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
+    // A command's arguments are numbered after everything its parents took.
+    for (Entry const& entry : out.m_entries) {
+        m_session.startAfter(entry.sequence);
+    }
     int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
+    m_lineEnd = m_session.lastSequence();
     if (stopAtBuiltin(out)) {
         return false;
     }
     if (code != 0) {
         std::string const argument = m_session.failedArgument(error);
-        return fail(out, error, argument.empty() ? std::vector<std::string>() : m_session.suggestions(argument));
+        return fail(out, error,
+                    argument.empty() ? std::string() : text::didYouMean(m_session.suggestions(argument), "--"));
     }
     if (!readFiles(out) || !readEnvironment(out) || !fillPositionals(out, commits) || !checkRelations(out)) {
         return false;
@@ -55,7 +64,7 @@ bool LevelParse::stopAtBuiltin(ResultData& out) {
     BuiltinNames const& builtins = m_session.builtins();
     auto const given = [&](std::string const& name) { return !name.empty() && m_line.count(name) != 0; };
     if (given(builtins.help)) {
-        out.m_message = helpText(m_app, m_session.description());
+        out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
     } else if (given(builtins.version)) {
         out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
     } else if (given(builtins.completion) && !m_line[builtins.completion].entries.empty()) {
@@ -68,13 +77,12 @@ bool LevelParse::stopAtBuiltin(ResultData& out) {
     return true;
 }
 
-bool LevelParse::fail(ResultData& out, std::string const& message, std::vector<std::string> const& suggestions) const {
+bool LevelParse::fail(ResultData& out, std::string const& message, std::string const& hint) const {
     out.m_done = true;
     out.m_exitCode = kUsageExitCode;
     out.m_toStandardOutput = false;
-    out.m_message = text::errorLine(m_app.m_program, message) +
-                    (suggestions.empty() ? std::string() : text::didYouMean(suggestions)) + usageLine(m_app) +
-                    text::tryHelpLine(m_app.m_program);
+    out.m_message =
+        text::errorLine(m_app.m_program, message) + hint + usageLine(m_app) + text::tryHelpLine(m_app.m_program);
     return false;
 }
 
@@ -189,11 +197,11 @@ bool LevelParse::given(std::string const& name) const {
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     for (auto const& option : m_app.m_options) {
         if (option->positional()) {
-            out.m_counts.push_back(CountedOption{option->names(), m_positionalCounts[option->name()]});
+            out.m_counts.push_back(CountedOption{option->sharedNames(), m_positionalCounts[option->name()]});
             continue;
         }
         OptionValues const* values = winner(option->name());
-        out.m_counts.push_back(CountedOption{option->names(), values == nullptr ? 0 : values->count});
+        out.m_counts.push_back(CountedOption{option->sharedNames(), values == nullptr ? 0 : values->count});
         if (values != nullptr) {
             out.m_entries.insert(out.m_entries.end(), values->entries.begin(), values->entries.end());
             commits.push_back(Commit{&option->binding(), textsOf(*values)});
@@ -201,7 +209,8 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     }
     for (FileOption const& file : m_app.m_files) {
         auto const found = m_line.find(file.names.front());
-        out.m_counts.push_back(CountedOption{file.names, found == m_line.end() ? 0 : found->second.count});
+        out.m_counts.push_back(CountedOption{std::make_shared<std::vector<std::string> const>(file.names),
+                                             found == m_line.end() ? 0 : found->second.count});
     }
 }
 
@@ -212,9 +221,11 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     OptionValues const* collected = winner(CoreSession::collector());
     std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
     std::size_t const beforeTerminator = plain.size();
-    std::int32_t const last = plain.empty() ? 0 : plain.back().sequence;
+    // The library numbers each argument after "--" in turn once the others are
+    // parsed but does not hand the numbers out: these follow the last value's.
+    std::int32_t sequence = m_lineEnd;
     for (std::string const& text : m_rest) {
-        plain.push_back(Entry{std::string(), text, last, Source::CommandLine});
+        plain.push_back(Entry{std::string(), text, ++sequence, Source::CommandLine});
     }
     std::size_t next = 0;
     for (auto const& option : m_app.m_options) {
@@ -250,10 +261,15 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 
 bool LevelParse::checkRelations(ResultData& out) const {
     for (auto const& option : m_app.m_options) {
-        if (option->m_required && !given(option->name())) {
+        bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
+        if (!option->m_required && !relates) {
+            continue;
+        }
+        bool const present = given(option->name());
+        if (option->m_required && !present) {
             return fail(out, text::required(option->name()));
         }
-        if (!given(option->name())) {
+        if (!present) {
             continue;
         }
         for (std::string const& other : option->m_needs) {
@@ -295,9 +311,12 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
         names.push_back(AppState::of(*command).m_name);
     }
     std::vector<std::string> const matches = matchCommand(plain.front().text, names);
+    if (matches.empty()) {
+        return fail(out, text::unknownCommand(plain.front().text),
+                    text::didYouMean(nearCommands(plain.front().text, names, kMaxCommandSuggestions), ""));
+    }
     if (matches.size() != 1) {
-        return fail(out, matches.empty() ? text::unknownCommand(plain.front().text)
-                                         : text::ambiguousCommand(plain.front().text, matches));
+        return fail(out, text::ambiguousCommand(plain.front().text, matches));
     }
     std::vector<std::string> args;
     for (auto entry = plain.begin() + 1; entry != plain.end(); ++entry) {

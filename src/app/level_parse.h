@@ -32,7 +32,8 @@ public:
 
 private:
     bool stopAtBuiltin(ResultData& out);
-    bool fail(ResultData& out, std::string const& message, std::vector<std::string> const& suggestions = {}) const;
+    // `hint`: a "Did you mean" line, or empty.
+    bool fail(ResultData& out, std::string const& message, std::string const& hint = {}) const;
     bool readFiles(ResultData& out);
     bool readFile(std::string const& path, ResultData& out);
     std::size_t failingLine(FileArguments const& file, std::string const& error);
@@ -53,6 +54,8 @@ private:
     SourceValues m_environment;
     SourceValues m_files;
     std::vector<std::string> m_rest;
+    // The last number of the command line's values, before what follows "--".
+    std::int32_t m_lineEnd = 0;
     std::map<std::string, std::size_t> m_positionalCounts;
 };
 

@@ -16,10 +16,13 @@ std::string errorLine(std::string const& program, std::string const& message) {
 
 std::string tryHelpLine(std::string const& program) { return "Try '" + program + " --help' for more information.\n"; }
 
-std::string didYouMean(std::vector<std::string> const& names) {
+std::string didYouMean(std::vector<std::string> const& names, char const* prefix) {
+    if (names.empty()) {
+        return {};
+    }
     std::string line = "Did you mean ";
     for (std::size_t i = 0; i < names.size(); ++i) {
-        line += (i == 0 ? "" : (i + 1 == names.size() ? " or " : ", ")) + ("'--" + names[i] + "'");
+        line += (i == 0 ? "" : (i + 1 == names.size() ? " or " : ", ")) + ("'" + (prefix + names[i]) + "'");
     }
     return line + "?\n";
 }

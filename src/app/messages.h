@@ -12,7 +12,8 @@ std::string quotedList(std::vector<std::string> const& items);
 
 std::string errorLine(std::string const& program, std::string const& message);
 std::string tryHelpLine(std::string const& program);
-std::string didYouMean(std::vector<std::string> const& names);
+// Empty for no names; `prefix` goes before each ("--" for options, nothing for commands).
+std::string didYouMean(std::vector<std::string> const& names, char const* prefix);
 std::string versionLine(std::string const& program, std::string const& version);
 
 std::string notWhole(std::string const& option, std::string const& value, std::string const& kind);

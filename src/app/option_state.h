@@ -17,9 +17,11 @@ public:
                 std::unique_ptr<Binding> binding);
 
     std::string const& namesText() const { return m_namesText; }
-    std::vector<std::string> const& names() const { return m_names; }
+    std::vector<std::string> const& names() const { return *m_names; }
+    // The names, for a result to keep without copying them.
+    std::shared_ptr<std::vector<std::string> const> const& sharedNames() const { return m_names; }
     // The first name: the one the library reports and events carry.
-    std::string const& name() const { return m_names.front(); }
+    std::string const& name() const { return m_names->front(); }
     bool answersTo(std::string const& name) const;
     std::string const& help() const { return m_help; }
     bool positional() const { return m_positional; }
@@ -37,7 +39,7 @@ public:
 
 private:
     std::string m_namesText;
-    std::vector<std::string> m_names;
+    std::shared_ptr<std::vector<std::string> const> m_names;
     std::string m_help;
     bool m_positional;
     std::unique_ptr<Binding> m_binding;

@@ -12,7 +12,7 @@ namespace {
 
 app_detail::CountedOption const* counted(app_detail::ResultData const& data, std::string const& name) {
     for (app_detail::CountedOption const& option : data.m_counts) {
-        if (std::find(option.names.begin(), option.names.end(), name) != option.names.end()) {
+        if (std::find(option.names->begin(), option.names->end(), name) != option.names->end()) {
             return &option;
         }
     }
@@ -42,7 +42,7 @@ bool Result::given(std::string const& name) const { return count(name) > 0; }
 std::size_t Result::count(std::string const& name) const {
     std::size_t total = 0;
     for (app_detail::CountedOption const& option : m_data->m_counts) {
-        if (std::find(option.names.begin(), option.names.end(), name) != option.names.end()) {
+        if (std::find(option.names->begin(), option.names->end(), name) != option.names->end()) {
             total += option.count;
         }
     }
@@ -60,7 +60,7 @@ std::vector<Entry> Result::entries(std::string const& name) const {
         return found;
     }
     for (Entry const& entry : m_data->m_entries) {
-        if (std::find(option->names.begin(), option->names.end(), entry.name) != option->names.end()) {
+        if (std::find(option->names->begin(), option->names->end(), entry.name) != option->names->end()) {
             found.push_back(entry);
         }
     }

@@ -2,6 +2,7 @@
 #ifndef QUEN_3_1_SRC_APP_RESULT_DATA_H
 #define QUEN_3_1_SRC_APP_RESULT_DATA_H
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,8 @@
 namespace quen_3_1::app_detail {
 
 struct CountedOption {
-    std::vector<std::string> names;
+    // Shared with the declaration, which never changes them.
+    std::shared_ptr<std::vector<std::string> const> names;
     std::size_t count;
 };
 

@@ -62,6 +62,9 @@ public:
         for (Element const& value : m_allowed) {
             option.allowValue(variantOf(value));
         }
+    }
+
+    void showDefault(IOption& option) const override {
         if constexpr (std::is_same_v<T, std::string>) {
             // An empty text would show as "()"; the library counts it as no default anyway.
             if (!m_target.empty()) {

@@ -1,5 +1,6 @@
 #include "app/value_gate.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quen_3_1::app_detail {
@@ -16,16 +17,19 @@ void ValueGate::begin(Source source, SourceValues& into) {
     m_emptyArgument = false;
 }
 
+void ValueGate::startAfter(std::int32_t sequence) { m_lastSequence = std::max(m_lastSequence, sequence); }
+
 bool ValueGate::onOptionParse(char const* name) {
     if (m_into == nullptr) {
         return true;
     }
     OptionValues& values = (*m_into)[name];
     ++values.count;
-    // A plain argument may be empty: it then comes without a value event.
+    // A plain argument may be empty: it then comes without a value event. Its
+    // occurrence took the next number after the last value, which no event tells.
     m_emptyArgument = name == m_collector;
     if (m_emptyArgument) {
-        values.entries.push_back(Entry{name, std::string(), m_lastSequence, m_source});
+        values.entries.push_back(Entry{name, std::string(), ++m_lastSequence, m_source});
     }
     return true;
 }

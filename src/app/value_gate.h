@@ -21,6 +21,8 @@ public:
     void watch(OptionState const& option);
     // Records what follows into `into`, as coming from `source`.
     void begin(Source source, SourceValues& into);
+    // Numbers of what follows are greater than `sequence` (what an earlier parse recorded).
+    void startAfter(std::int32_t sequence);
 
     bool onOptionParse(char const* name) override;
     bool onValueParse(char const* name, Value const& value) override;
@@ -30,6 +32,8 @@ public:
     std::string const& refusal() const { return m_refusal; }
     // The last argument that no option took.
     std::string const& unknown() const { return m_unknown; }
+    // The greatest number recorded so far.
+    std::int32_t lastSequence() const { return m_lastSequence; }
 
 private:
     std::string m_collector;

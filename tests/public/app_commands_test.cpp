@@ -71,6 +71,46 @@ TEST_F(Tool, CommandWithOtherPartCountIsUnknown) {
     EXPECT_EQ(parseLine(app, {"check"}).exitCode(), 2);
 }
 
+TEST_F(Tool, MistypedCommandGetsASuggestion) {
+    EXPECT_EQ(parseLine(app, {"chek-path"}).message(),
+              "prog: error: Unknown command 'chek-path'\n"
+              "Did you mean 'check-path'?\n"
+              "Usage: prog [options] <command> [<args>]\nTry 'prog --help' for more information.\n");
+    EXPECT_EQ(parseLine(app, {"remote", "rmove"}).message(),
+              "prog remote: error: Unknown command 'rmove'\n"
+              "Did you mean 'remove'?\n"
+              "Usage: prog remote [options] <command> [<args>]\nTry 'prog remote --help' for more information.\n");
+}
+
+TEST(CommandSuggestions, NearestFirstThenDeclarationOrder) {
+    quen_3_1::App app("prog");
+    app.command("wave", "Wave.");
+    app.command("save", "Save.");
+    app.command("load", "Load.");
+    EXPECT_EQ(parseLine(app, {"sve"}).message(),
+              "prog: error: Unknown command 'sve'\n"
+              "Did you mean 'save'?\n"
+              "Usage: prog [options] <command> [<args>]\nTry 'prog --help' for more information.\n");
+    EXPECT_EQ(parseLine(app, {"ave"}).message(),
+              "prog: error: Unknown command 'ave'\n"
+              "Did you mean 'wave' or 'save'?\n"
+              "Usage: prog [options] <command> [<args>]\nTry 'prog --help' for more information.\n");
+    EXPECT_EQ(parseLine(app, {"x"}).message(),
+              "prog: error: Unknown command 'x'\n"
+              "Usage: prog [options] <command> [<args>]\nTry 'prog --help' for more information.\n");
+}
+
+TEST(CommandSuggestions, LongTextIsComparedByItsStart) {
+    quen_3_1::App app("prog");
+    std::string const name(80, 's');
+    app.command(name, "Long.");
+    std::string const typed = std::string(63, 's') + std::string(100000, 'x');
+    quen_3_1::Result const result = parseLine(app, {typed});
+    EXPECT_EQ(result.message(), "prog: error: Unknown command '" + typed + "'\nDid you mean '" + name +
+                                    "'?\nUsage: prog [options] <command> [<args>]\nTry 'prog --help' for more "
+                                    "information.\n");
+}
+
 TEST_F(Tool, NestedCommands) {
     quen_3_1::Result const result = parseLine(app, {"-v", "rem", "add", "https://x"});
     EXPECT_EQ(result.exitCode(), 0);
@@ -89,9 +129,7 @@ TEST_F(Tool, ErrorInCommandNamesTheCommand) {
     EXPECT_FALSE(deep);
 }
 
-TEST_F(Tool, CommandOptionIsNotAProgramOption) {
-    EXPECT_EQ(parseLine(app, {"--deep", "check-sums"}).exitCode(), 2);
-}
+TEST_F(Tool, CommandOptionIsNotAProgramOption) { EXPECT_EQ(parseLine(app, {"--deep", "check-sums"}).exitCode(), 2); }
 
 TEST_F(Tool, CommandHelp) {
     quen_3_1::Result const result = parseLine(app, {"remote", "add", "--help"});

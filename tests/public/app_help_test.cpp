@@ -106,6 +106,55 @@ TEST_F(Qsync, SuccessIsNotDone) {
     EXPECT_EQ(result.message(), "");
 }
 
+// The same description wraps the same way under "Options:" and "Arguments:".
+TEST(HelpArguments, LongDescriptionsWrapLikeOptionDescriptions) {
+    quen_3_1::App app("prog");
+    std::string mode;
+    std::string source;
+    std::vector<std::string> destinations;
+    std::string const longHelp =
+        "Where the photos come from: a card, a camera or a folder that an earlier import left behind.";
+    app.option("mode", mode, longHelp);
+    app.positional("source", source, longHelp);
+    app.positional("destinations-with-a-long-name", destinations,
+                   "Albums, each one named by its path below the shelf: "
+                   "holidays/2026/a-name-that-is-much-too-long-for-one-line-of-the-column.");
+    EXPECT_EQ(parseLine(app, {"--help"}).message(),
+              "Usage: prog [options] [<source>] [<destinations-with-a-long-name>...]\n\n"
+              "Options:\n"
+              "-mode=<string>                Where the photos come from: a card, a camera or a\n"
+              "                              folder that an earlier import left behind.\n"
+              "-h, -help                     Print this help and exit.\n"
+              "-completion=bash | zsh | fish Print the completion script for this shell and\n"
+              "                              exit.\n\n"
+              "Arguments:\n"
+              "  [<source>]                  Where the photos come from: a card, a camera or a\n"
+              "                              folder that an earlier import left behind.\n"
+              "  [<destinations-with-a-long-name>...]\n"
+              "                              Albums, each one named by its path below the\n"
+              "                              shelf:\n"
+              "                              holidays/2026/a-name-that-is-much-too-long-for-on\n"
+              "                              e-line-of-the-column.\n\n");
+}
+
+TEST(HelpOptionsFile, ListedInDeclarationOrder) {
+    quen_3_1::App app("prog");
+    int jobs = 2;
+    bool quiet = false;
+    app.option("jobs", jobs, "Workers.");
+    app.optionsFile("config,c", "Read options from this file.");
+    app.option("quiet", quiet, "Say less.");
+    EXPECT_EQ(parseLine(app, {"--help"}).message(),
+              "Usage: prog [options]\n\n"
+              "Options:\n"
+              "-jobs=<integer> (2)           Workers.\n"
+              "-c, -config=<string>          Read options from this file.\n"
+              "-quiet | -no-quiet (default)  Say less.\n"
+              "-h, -help                     Print this help and exit.\n"
+              "-completion=bash | zsh | fish Print the completion script for this shell and\n"
+              "                              exit.\n\n");
+}
+
 TEST(HelpNames, OwnOptionNamedHKeepsItsName) {
     quen_3_1::App app("prog");
     std::string host;

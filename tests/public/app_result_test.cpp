@@ -120,4 +120,56 @@ TEST(ResultEntries, PositionalsCountedAndListed) {
     EXPECT_FALSE(result.given("nothing"));
 }
 
+// Name and text of every entry; fails the test when two entries share a number
+// or the numbers do not increase.
+std::vector<std::pair<std::string, std::string>> inIncreasingOrder(quen_3_1::Result const& result) {
+    std::vector<std::pair<std::string, std::string>> seen;
+    for (std::size_t i = 0; i < result.entries().size(); ++i) {
+        quen_3_1::Entry const& entry = result.entries()[i];
+        if (i > 0) {
+            EXPECT_LT(result.entries()[i - 1].sequence, entry.sequence) << entry.name << " '" << entry.text << "'";
+        }
+        seen.emplace_back(entry.name, entry.text);
+    }
+    return seen;
+}
+
+TEST(ResultEntries, ValuesAfterTerminatorHaveNumbersOfTheirOwn) {
+    quen_3_1::App app("prog");
+    int quality = 0;
+    std::vector<std::string> files;
+    app.option("quality", quality, "How good.");
+    app.positional("files", files, "What.");
+    quen_3_1::Result const result = parseLine(app, {"a.jpg", "--quality", "5", "b.jpg", "--", "-odd.jpg", "c.jpg"});
+    ASSERT_EQ(result.exitCode(), 0) << result.message();
+    EXPECT_EQ(
+        inIncreasingOrder(result),
+        (std::vector<std::pair<std::string, std::string>>{
+            {"files", "a.jpg"}, {"quality", "5"}, {"files", "b.jpg"}, {"files", "-odd.jpg"}, {"files", "c.jpg"}}));
+}
+
+TEST(ResultEntries, TerminatorFirstInCommandStillFollowsTheProgramOptions) {
+    quen_3_1::App app("prog");
+    int level = 0;
+    std::vector<std::string> files;
+    app.option("level", level, "How much.");
+    app.command("add", "Add.").positional("files", files, "What.");
+    quen_3_1::Result const result = parseLine(app, {"--level=2", "add", "--", "x", "y"});
+    ASSERT_EQ(result.exitCode(), 0) << result.message();
+    EXPECT_EQ(inIncreasingOrder(result),
+              (std::vector<std::pair<std::string, std::string>>{{"level", "2"}, {"files", "x"}, {"files", "y"}}));
+}
+
+TEST(ResultEntries, EmptyPlainArgumentHasANumberOfItsOwn) {
+    quen_3_1::App app("prog");
+    int level = 0;
+    std::vector<std::string> words;
+    app.option("level", level, "How much.");
+    app.positional("words", words, "What.");
+    quen_3_1::Result const result = parseLine(app, {"--level=2", "", "w"});
+    ASSERT_EQ(result.exitCode(), 0) << result.message();
+    EXPECT_EQ(inIncreasingOrder(result),
+              (std::vector<std::pair<std::string, std::string>>{{"level", "2"}, {"words", ""}, {"words", "w"}}));
+}
+
 }  // namespace
