@@ -5,8 +5,9 @@
 #include <cerrno>
 #include <cstdlib>
 #include <limits>
-#include <unordered_map>
 #include <utility>
+
+#include "line_claims.h"
 
 namespace quenopt {
 
@@ -193,8 +194,8 @@ bool convertValue(TableOption const& option, std::string const& text, tarvo2::va
 
 // Everything the checks of later lines need to know about earlier ones.
 struct TableState {
-    std::unordered_map<std::string, int> names;      // command-line names (with "no-" forms of booleans) -> line
-    std::unordered_map<std::string, int> variables;  // shell variables -> line
+    LineClaims names;      // command-line names (with "no-" forms of booleans)
+    LineClaims variables;  // shell variables
     int positionalLine = 0;
 };
 
@@ -399,10 +400,8 @@ private:
             }
         }
         for (auto claim = claims.begin(); claim != claims.end(); ++claim) {
-            auto found = m_state.names.find(claim->name);
-            if (found != m_state.names.end()) {
-                return fail(claim->field, claim->shown() + " is already taken by line " + std::to_string(found->second),
-                            error);
+            if (int const taken = m_state.names.lineOf(claim->name)) {
+                return fail(claim->field, claim->shown() + " is already taken by line " + std::to_string(taken), error);
             }
             auto same = [&](Claim const& other) { return other.name == claim->name; };
             if (std::any_of(claims.begin(), claim, same)) {
@@ -410,18 +409,16 @@ private:
             }
         }
         for (std::string const& variable : {option.variable, option.variable + "_count"}) {
-            auto found = m_state.variables.find(variable);
-            if (found != m_state.variables.end()) {
-                return fail("names",
-                            "variable '" + variable + "' is already taken by line " + std::to_string(found->second),
+            if (int const taken = m_state.variables.lineOf(variable)) {
+                return fail("names", "variable '" + variable + "' is already taken by line " + std::to_string(taken),
                             error);
             }
         }
         for (Claim const& claim : claims) {
-            m_state.names.emplace(claim.name, m_line);
+            m_state.names.claim(claim.name, m_line);
         }
-        m_state.variables.emplace(option.variable, m_line);
-        m_state.variables.emplace(option.variable + "_count", m_line);
+        m_state.variables.claim(option.variable, m_line);
+        m_state.variables.claim(option.variable + "_count", m_line);
         if (option.positional) {
             m_state.positionalLine = m_line;
         }
