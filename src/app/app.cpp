@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/app_state.h"
+#include "app/instance_types.h"
 #include "app/level_parse.h"
 #include "app/messages.h"
 #include "app/result_data.h"
@@ -105,13 +106,7 @@ Result App::parse(int argc, char const* const* argv) {
     template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&, std::string); \
     template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, std::string);           \
     template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, std::string);
-QUEN_APP_INSTANTIATE(bool)
-QUEN_APP_INSTANTIATE(int)
-QUEN_APP_INSTANTIATE(unsigned)
-QUEN_APP_INSTANTIATE(long long)
-QUEN_APP_INSTANTIATE(unsigned long long)
-QUEN_APP_INSTANTIATE(double)
-QUEN_APP_INSTANTIATE(std::string)
+QUEN_APP_FOR_EACH_ELEMENT(QUEN_APP_INSTANTIATE)
 #undef QUEN_APP_INSTANTIATE
 // NOLINTEND(bugprone-macro-parentheses)
 

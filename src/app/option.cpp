@@ -1,6 +1,7 @@
 // Option<T>: the host's handle on one declaration, refining its binding.
 #include <utility>
 
+#include "app/instance_types.h"
 #include "app/option_state.h"
 #include "app/typed_binding.h"
 #include "quen_3_1/app.h"
@@ -79,13 +80,7 @@ Option<T>& Option<T>::hidden() {
     template class Option<T>;                \
     template class Option<std::optional<T>>; \
     template class Option<std::vector<T>>;
-QUEN_APP_INSTANTIATE(bool)
-QUEN_APP_INSTANTIATE(int)
-QUEN_APP_INSTANTIATE(unsigned)
-QUEN_APP_INSTANTIATE(long long)
-QUEN_APP_INSTANTIATE(unsigned long long)
-QUEN_APP_INSTANTIATE(double)
-QUEN_APP_INSTANTIATE(std::string)
+QUEN_APP_FOR_EACH_ELEMENT(QUEN_APP_INSTANTIATE)
 #undef QUEN_APP_INSTANTIATE
 // NOLINTEND(bugprone-macro-parentheses)
 
