@@ -72,11 +72,15 @@ void declare(quen_3_1::IParser* parser, std::string const& line, std::vector<std
         } else if (c == '^') {
             option->tokenize(';');
         } else if (c == '+') {
-            option->synonym((f[0] + "-alias").c_str());
+            std::string const alias = f[0] + "-alias";
+            option->synonym(alias.c_str());
+            names.emplace_back(alias.c_str());
         }
     }
+    // The library reads the name list up to its first NUL, as read back here,
+    // so a synonym equal to a declared name counts as that name listed twice.
     std::string name;
-    for (char c : f[0] + ",") {
+    for (char c : std::string(f[0].c_str()) + ",") {
         if (c == ',') {
             names.push_back(name);
             name.clear();

@@ -547,3 +547,19 @@ TEST_F(ResultQuery, NameListedTwiceCollectsEachLaterValueTwice) {
     EXPECT_EQ(numbers[1], numbers[2]);
     EXPECT_EQ(occurrencesOf(result, "lv").size(), 3U);
 }
+
+// A synonym equal to a name the option already has is that name listed once
+// more: each value after the first store comes once per listing, one number.
+TEST_F(ResultQuery, SynonymEqualToItsOwnNameCollectsEachLaterValueAgain) {
+    ParserHarness harness;
+    harness.option("level,lv", tarvo2::vt_int)->synonym("lv")->synonym("lv");
+    ASSERT_EQ(harness.parseArgs({"--level=1", "--level=2"}), 0);
+    IParseResult* const result = harness.result();
+
+    EXPECT_EQ(textsOf(result, "level"), StringList({"1", "2"}));
+    EXPECT_EQ(textsOf(result, "lv"), StringList({"1", "2", "2", "2"}));
+    std::vector<int> const numbers = numbersOf(result, "lv");
+    ASSERT_EQ(numbers.size(), 4U);
+    EXPECT_LT(numbers[0], numbers[1]);
+    EXPECT_EQ(numbers[1], numbers[3]);
+}
