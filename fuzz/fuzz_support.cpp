@@ -24,10 +24,11 @@ void* countingAllocate(std::size_t bytes) {
 constexpr int kNoNumber = 0x7fffffff;
 constexpr int kLoopLimit = 1000000;
 
-// Numbers grow along an iteration, except under a name listed twice: each
-// value stored after the first store comes twice under it, with one number.
+// Numbers grow along an iteration, except under a name listed twice: every
+// store after the first appends its whole batch once per listing, so a value
+// split in two comes back as a, b, a, b and no order holds there.
 bool inOrder(int number, int previous, bool listedTwice) {
-    return listedTwice ? number >= previous : number > previous;
+    return listedTwice ? number > 0 && number != kNoNumber : number > previous;
 }
 
 void walkValues(quen_3_1::IParseResult* result, std::string const& name, bool listedTwice, HandedOut& texts) {

@@ -548,6 +548,24 @@ TEST_F(ResultQuery, NameListedTwiceCollectsEachLaterValueTwice) {
     EXPECT_EQ(occurrencesOf(result, "lv").size(), 3U);
 }
 
+// The doubling appends a later store's whole batch once per listing: a value
+// split in two comes back as its two parts, then the same two parts again.
+TEST_F(ResultQuery, NameListedTwiceCollectsASplitValueAsTwoBatches) {
+    ParserHarness harness;
+    harness.option("level,lv,lv", tarvo2::vt_str);
+    ASSERT_EQ(harness.parseArgs({"--level=x", "--level=a,b"}), 0);
+    IParseResult* const result = harness.result();
+
+    EXPECT_EQ(textsOf(result, "level"), StringList({"x", "a", "b"}));
+    EXPECT_EQ(textsOf(result, "lv"), StringList({"x", "a", "b", "a", "b"}));
+    std::vector<int> const numbers = numbersOf(result, "lv");
+    ASSERT_EQ(numbers.size(), 5U);
+    EXPECT_LT(numbers[0], numbers[1]);
+    EXPECT_LT(numbers[1], numbers[2]);
+    EXPECT_EQ(numbers[3], numbers[1]);
+    EXPECT_EQ(numbers[4], numbers[2]);
+}
+
 // A synonym equal to a name the option already has is that name listed once
 // more: each value after the first store comes once per listing, one number.
 TEST_F(ResultQuery, SynonymEqualToItsOwnNameCollectsEachLaterValueAgain) {
