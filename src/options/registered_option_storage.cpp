@@ -1,7 +1,5 @@
 #include "options/registered_option_storage.h"
 
-#include <iostream>
-
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
 #include "values/separator_split.h"
@@ -66,7 +64,7 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
     unsigned long index = 0;
     if (findOption(names, index) == 0) {
         internal::trace("An option with the same name is already registered: ", names[0]);
-        std::cerr << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
+        ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
         return 1;
     }
     return 0;
