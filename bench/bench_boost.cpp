@@ -146,14 +146,24 @@ void optionFile(benchmark::State& state, Workload const& w) {
     }
 }
 
+// Declaration alone, as W3 declares its options.
+void registration(benchmark::State& state, Workload const& w) {
+    for (auto _ : state) {
+        po::options_description const description = declare(w, true);
+        benchmark::DoNotOptimize(description.options().data());
+    }
+}
+
 }  // namespace
 
 void registerBoost() {
     char const* const lib = "Boost.PO";
     add("W1", lib, 1, startup);
     add("W2/N=1000", lib, 1000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(1000)); });
+    add("W2/N=10000", lib, 10000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(10000)); });
     add("W2/N=100000", lib, 100000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(100000)); });
     add("W3/M=1000", lib, 100, [](benchmark::State& s) { commandLine(s, manyOptionsWorkload(1000)); });
+    add("W3/register", lib, 1000, [](benchmark::State& s) { registration(s, manyOptionsWorkload(1000)); });
     add("W4", lib, 100000, [](benchmark::State& s) { optionFile(s, manyArgumentsWorkload(100000)); });
     add("W5/log-f", lib, 1000, [](benchmark::State& s) { commandLine(s, abbreviationWorkload(1000, false)); });
 }

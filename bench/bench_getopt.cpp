@@ -96,6 +96,7 @@ void registerGetopt() {
     char const* const lib = "getopt_long";
     add("W1", lib, 1, startup);
     add("W2/N=1000", lib, 1000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(1000)); });
+    add("W2/N=10000", lib, 10000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(10000)); });
     add("W2/N=100000", lib, 100000, [](benchmark::State& s) { commandLine(s, manyArgumentsWorkload(100000)); });
     add("W3/M=1000", lib, 100, [](benchmark::State& s) { commandLine(s, manyOptionsWorkload(1000)); });
     add("W5/log-f", lib, 1000, [](benchmark::State& s) { commandLine(s, abbreviationWorkload(1000, false)); });

@@ -4,7 +4,8 @@
 // a figure that, unlike time, does not depend on the load of the machine.
 //   quen_instructions WORKLOAD ITERATIONS
 // WORKLOAD: W1, W2 (N = 1,000), W2-100k, W3, W4 (10,000 lines), W5-log-f, W5-l-f,
-// W1-app (W1 declared through the application layer).
+// W1-app (W1 declared through the application layer), W3-register (W3's 1,000
+// options declared on a new parser that is then destroyed; units are options).
 // Prints the number of units per iteration; exits 1 on a wrong read-back.
 #include <valgrind/callgrind.h>
 
@@ -26,9 +27,10 @@ using qbench::Workload;
 struct Case {
     char const* name;
     Workload (*make)();
-    bool startup;  // parser declared in every iteration
-    bool text;     // parsed as an option text
-    bool app;      // declared and parsed through App (startup only)
+    bool startup;              // parser declared in every iteration
+    bool text;                 // parsed as an option text
+    bool app;                  // declared and parsed through App (startup only)
+    bool declareOnly = false;  // a new parser declared and destroyed, nothing parsed
 };
 
 Case const kCases[] = {
@@ -40,6 +42,7 @@ Case const kCases[] = {
     {"W5-log-f", [] { return qbench::abbreviationWorkload(1000, false); }, false, false, false},
     {"W5-l-f", [] { return qbench::abbreviationWorkload(1000, true); }, false, false, false},
     {"W1-app", [] { return qbench::startupWorkload(); }, true, false, true},
+    {"W3-register", [] { return qbench::manyOptionsWorkload(1000); }, true, false, false, true},
 };
 
 Case const* findCase(char const* name) {
@@ -66,6 +69,11 @@ bool iterate(Case const& c, Workload const& w, quen_3_1::IParser* declared, qben
     if (c.app) {
         return iterateApp(w, line, expected);
     }
+    if (c.declareOnly) {
+        quen_3_1::IParser* const parser = qbench::makeParser(w);
+        parser->destroy();
+        return true;
+    }
     quen_3_1::IParser* const parser = c.startup ? qbench::makeParser(w) : declared;
     quen_3_1::IParseResult* result = nullptr;
     parser->createResult(&result);
@@ -85,7 +93,8 @@ int main(int argc, char** argv) {
     Case const* const c = argc == 3 ? findCase(argv[1]) : nullptr;
     int const iterations = argc == 3 ? std::atoi(argv[2]) : 0;
     if (c == nullptr || iterations < 1) {
-        std::fprintf(stderr, "usage: quen_instructions W1|W2|W2-100k|W3|W4|W5-log-f|W5-l-f|W1-app ITERATIONS\n");
+        std::fprintf(stderr,
+                     "usage: quen_instructions W1|W2|W2-100k|W3|W4|W5-log-f|W5-l-f|W1-app|W3-register ITERATIONS\n");
         return 2;
     }
     Workload const w = c->make();
@@ -106,6 +115,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s: wrong values read back\n", c->name);
         return 1;
     }
-    std::printf("%zu\n", c->startup ? std::size_t{1} : w.occurrences.size());
+    std::size_t const units = c->declareOnly ? w.options.size() : c->startup ? 1 : w.occurrences.size();
+    std::printf("%zu\n", units);
     return 0;
 }

@@ -270,8 +270,10 @@ std::vector<Row> const& rows() {
     static std::vector<Row> const table = {
         {"W1", "W1 start-up: 20 options, 16 arguments, create+register+parse+read+destroy", "ns/run"},
         {"W2/N=1000", "W2 50 options, N = 1,000 arguments", "ns/arg"},
+        {"W2/N=10000", "W2 50 options, N = 10,000 arguments", "ns/arg"},
         {"W2/N=100000", "W2 50 options, N = 100,000 arguments", "ns/arg"},
         {"W3/M=1000", "W3 M = 1,000 options, 100 arguments", "ns/arg"},
+        {"W3/register", "W3 registering M = 1,000 options: create+declare+destroy", "ns/option"},
         {"W4", "W4 option text, 100,000 lines (CLI11/Boost: their config readers)", "ns/line"},
         {"W5/log-f", "W5 --log-f: prefix of the whole name, 20 options, 1,000 arguments", "ns/arg"},
         {"W5/l-f", "W5 --l-f: prefix of every part, 20 options, 1,000 arguments", "ns/arg"},

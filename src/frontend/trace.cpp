@@ -44,7 +44,7 @@ struct DiscardingStream {
 
 std::ostream& quenLog() {
     if (quenLogEnabled) {
-        return ORNA_2_10::strings::tv2::ucout;
+        return ORNA_2_10::strings::tv2::console();
     }
     static DiscardingStream discarding;
     return discarding.get();

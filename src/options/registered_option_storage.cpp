@@ -1,6 +1,6 @@
 #include "options/registered_option_storage.h"
 
-#include <iostream>
+#include <string_view>
 
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
@@ -10,7 +10,7 @@ namespace quen_3_1 {
 
 IOption* RegisteredOptionStorage::option(char const* names, char const* description, kel_variant_type_t type,
                                          char const* group) {
-    std::pair<std::string, std::string> const groupEntry = recordGroup(group);
+    std::pair<std::string, std::string> const& groupEntry = recordGroup(group);
     m_invalidOption.setStatus(3);
     std::vector<std::string> list;
     split(names, list);
@@ -43,14 +43,15 @@ void RegisteredOptionStorage::positionalSet(std::size_t option) {
 // The first title given to a group wins; later ones are ignored.
 std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string const& group) {
     std::size_t const colon = group.find(':');
-    std::string const name = group.substr(0, colon);
+    std::string_view const name = std::string_view(group).substr(0, colon);
     for (auto const& entry : m_groups) {
         if (entry.first == name) {
             return entry;
         }
     }
-    std::string title = colon == std::string::npos ? std::string() : group.substr(colon + 1);
-    m_groups.emplace_back(name, std::move(title));
+    std::string_view const title =
+        colon == std::string::npos ? std::string_view() : std::string_view(group).substr(colon + 1);
+    m_groups.emplace_back(std::string(name), std::string(title));
     return m_groups.back();
 }
 
@@ -66,7 +67,7 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
     unsigned long index = 0;
     if (findOption(names, index) == 0) {
         internal::trace("An option with the same name is already registered: ", names[0]);
-        std::cerr << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
+        ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
         return 1;
     }
     return 0;

@@ -60,7 +60,7 @@ protected:
                                   ArgumentList& args, IResultCollector* collector);
 
     EventHandler* m_handler;
-    std::string m_name;
+    char const* m_name;  // for trace lines; a literal, so a parse allocates nothing for it
     Garbage* m_garbage;
     std::int32_t m_flags;
 

@@ -1,5 +1,7 @@
 #include "recognizers/name_matching.h"
 
+#include <algorithm>
+
 #include "options/name_index.h"
 
 namespace quen_3_1 {
@@ -46,7 +48,6 @@ void splitParts(std::string_view whole, std::vector<std::string_view>& parts) {
 // part begins can score, and a candidate equal to the typed name beats
 // every other, so the index narrows the search to those.
 std::vector<std::size_t> const& BestNameMatch::find(NameIndex const& index, std::string_view typed) {
-    splitParts(typed, m_typedParts);
     m_best.clear();
     m_score = 0;
     std::size_t const exact = index.firstNamed(typed);
@@ -54,9 +55,12 @@ std::vector<std::size_t> const& BestNameMatch::find(NameIndex const& index, std:
         for (std::size_t id = exact; id != NameIndex::npos; id = index.nextNamed(id)) {
             m_best.push_back(id);
         }
-        m_score = static_cast<std::int32_t>(2 * m_typedParts.size());
+        // Every part equal: 2 per part, and the parts are one more than the hyphens.
+        auto const hyphens = std::count(typed.begin(), typed.end(), '-');
+        m_score = static_cast<std::int32_t>(2 * (hyphens + 1));
         return m_best;
     }
+    splitParts(typed, m_typedParts);
     m_shaped.clear();
     index.withShape(m_typedParts.size(), m_typedParts.front(), m_shaped);
     for (std::size_t const id : m_shaped) {

@@ -39,11 +39,11 @@ void appendValues(std::vector<ValueEntry>& to, std::vector<ValueEntry> const& fr
 
 int ParseResult::store(OptionDescription const& option, OptionData const& data) {
     std::vector<std::string> const& names = option.names();
-    auto const primary = m_names.find(names.at(0));
-    if (primary == m_names.end()) {
+    NameEntry const* const primary = m_names.find(names.at(0));
+    if (primary == nullptr) {
         replaceUnderEveryName(names, data);
-    } else if (reachesOnlyItsOwnRecord(names, primary->second.record)) {
-        appendTimes(m_records[primary->second.record], data, 1);
+    } else if (reachesOnlyItsOwnRecord(names, primary->record)) {
+        appendTimes(m_records[primary->record], data, 1);
     } else {
         appendUnderEveryName(names, data);
     }
@@ -63,8 +63,8 @@ bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names,
                 return false;
             }
         }
-        auto const found = m_names.find(names[i]);
-        if (found == m_names.end() || found->second.record != record) {
+        NameEntry const* const found = m_names.find(names[i]);
+        if (found == nullptr || found->record != record) {
             return false;
         }
     }
@@ -76,7 +76,7 @@ void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, O
     m_records[id].positions = data.m_positions;
     m_records[id].values = data.m_values;
     for (std::string const& name : names) {
-        NameEntry& entry = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()}).first->second;
+        NameEntry& entry = *m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()}).first;
         point(entry, id);
         entry.defaultEntry = data.m_default;
     }
@@ -90,7 +90,7 @@ void ParseResult::appendUnderEveryName(std::vector<std::string> const& names, Op
     std::vector<NameEntry*> listed;
     listed.reserve(names.size());
     for (std::string const& name : names) {
-        listed.push_back(&m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()}).first->second);
+        listed.push_back(m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()}).first);
     }
     std::sort(listed.begin(), listed.end());
     // Each distinct name with the number of times it is listed, by record.
@@ -174,8 +174,8 @@ Status ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& 
                 message = recognizer_messages::numbersExhausted();
                 return Status::NumbersExhausted;
             }
-            auto const placed = m_names.try_emplace(name, NameEntry{kNoRecord, ValueEntry()});
-            NameEntry& entry = placed.first->second;
+            auto const placed = m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()});
+            NameEntry& entry = *placed.first;
             if (placed.second) {
                 shared = shared == kNoRecord ? newRecord() : shared;
                 point(entry, shared);

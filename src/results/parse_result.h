@@ -5,16 +5,16 @@
 #include <cstdint>
 #include <deque>
 #include <string>
-#include <unordered_map>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "quen_3_1/quen.h"
 #include "recognizers/status.h"
+#include "results/name_table.h"
 #include "results/option_data.h"
 #include "results/result_collector.h"
 #include "values/garbage.h"
-#include "values/text_hash.h"
 
 namespace quen_3_1 {
 
@@ -50,7 +50,7 @@ public:
     void appendArgument(std::string const& text, std::int32_t number);
 
     // Query internals; codes 0 found, 1 not found, 3 standard exception.
-    int get(std::string const& name, char const** text, tarvo2::variant_t& value, int from, int to, int& number);
+    int get(std::string_view name, char const** text, tarvo2::variant_t& value, int from, int to, int& number);
     int next(std::string const& name, char const** text, tarvo2::variant_t& value, int& number);
     int getFirstArgument(std::string& text);
     int getNextArgument(std::string& text);
@@ -67,9 +67,9 @@ public:
         std::size_t record;
         ValueEntry defaultEntry;  // applied default; empty text when none
     };
-    // Nothing depends on the order of the names, so a hash map serves; its
-    // elements stay in place when it grows, which m_current relies on.
-    using NameMap = std::unordered_map<std::string, NameEntry, TextHash>;
+    // Nothing depends on the order of the names, so a hash table serves; its
+    // entries stay in place when it grows, which m_current relies on.
+    using NameMap = NameTable<NameEntry>;
 
     NameMap const& names() const { return m_names; }
     Record const& record(std::size_t id) const { return m_records[id]; }

@@ -23,13 +23,12 @@ void makeNotFound(Value& value, std::int32_t status) {
 
 }  // namespace
 
-int ParseResult::get(std::string const& name, char const** text, tarvo2::variant_t& value, int from, int to,
+int ParseResult::get(std::string_view name, char const** text, tarvo2::variant_t& value, int from, int to,
                      int& number) {
     try {
         m_from = from;
         m_to = to;
-        auto const found = m_names.find(name);
-        m_current = found == m_names.end() ? nullptr : &found->second;
+        m_current = m_names.find(name);
         if (!hasCurrent()) {
             return 1;
         }
@@ -131,8 +130,8 @@ bool ParseResult::present(char const* name, int from, int to) {
 }
 
 // The public form of a query: a Value, the not-found one on failure. A
-// standard exception in the wrapper itself (building the key) reads as status 1,
-// and so does a null name, for which building the key would fail. Every path
+// standard exception escaping the query itself reads as status 1, and so does
+// a null name, which is never looked up. Every path
 // returns the one local Value, so it is built in place and its variant is
 // never copied on the way out.
 template <class Query>
@@ -156,7 +155,7 @@ Value ParseResult::publicQuery(char const* name, Query query) {
 
 Value ParseResult::get(char const* name, int from, int to) {
     return publicQuery(name, [this, name, from, to](char const** text, tarvo2::variant_t& value, int& number) {
-        return get(std::string(name), text, value, from, to, number);
+        return get(std::string_view(name), text, value, from, to, number);
     });
 }
 

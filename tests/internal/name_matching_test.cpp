@@ -1,3 +1,5 @@
+#include "recognizers/name_matching.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -353,4 +355,19 @@ TEST_F(NameMatching, HigherScoreReplacesEarlierTies) {
     EXPECT_EQ(recognizer.findBest(matches, best, message), 0);
     EXPECT_EQ(best.getName(), "al");
     EXPECT_EQ(namesOf(recognizer.bestMatches()), (std::vector<std::string>{"al"}));
+}
+
+// An exact name scores 2 for each of its parts, empty parts between two
+// hyphens included, as if every part had been compared.
+TEST_F(NameMatching, IndexedExactNameScoresTwoPerPartEmptyOnesIncluded) {
+    add("log--file", tarvo2::vt_empty);
+    add("-", tarvo2::vt_empty);
+    add("plain", tarvo2::vt_empty);
+    quen_3_1::BestNameMatch matcher;
+    EXPECT_EQ(matcher.find(storage.names(), "log--file").size(), 1U);
+    EXPECT_EQ(matcher.score(), 6);
+    EXPECT_EQ(matcher.find(storage.names(), "-").size(), 1U);
+    EXPECT_EQ(matcher.score(), 4);
+    EXPECT_EQ(matcher.find(storage.names(), "plain").size(), 1U);
+    EXPECT_EQ(matcher.score(), 2);
 }

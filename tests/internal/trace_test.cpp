@@ -45,6 +45,14 @@ TEST_F(Trace, SwitchedOnStreamIsTheConsoleStream) {
     EXPECT_EQ(&quenLog(), &std::cout);
 }
 
+// The library names the two streams without the header that builds them at
+// load; they must still be the process's own.
+TEST_F(Trace, ConsoleStreamsAreTheStandardOnes) {
+    EXPECT_EQ(&ORNA_2_10::strings::tv2::console(), &std::cout);
+    EXPECT_EQ(&ORNA_2_10::strings::tv2::consoleError(), &std::cerr);
+    EXPECT_EQ(&ORNA_2_10::strings::tv2::ucout, &std::cout);
+}
+
 TEST_F(Trace, DiscardingStreamIsCreatedOnceAndReused) {
     std::ostream& first = quenLog();
     std::ostream& second = quenLog();
