@@ -28,7 +28,8 @@ struct ResultHandle {
 
 }  // namespace
 
-CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_gate(kCollectorName) {
+CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
+    : m_layout(app, m_builtins), m_gate(app, m_layout) {
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
@@ -46,7 +47,6 @@ CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_g
         if (!option.positional()) {
             registerOption(option, showDefaults);
         }
-        m_gate.watch(option);
     }
     registerBuiltins(app, top);
     m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
@@ -58,8 +58,6 @@ CoreSession::~CoreSession() {
         m_parser->destroy();
     }
 }
-
-char const* CoreSession::collector() { return kCollectorName; }
 
 void CoreSession::registerOption(OptionState const& option, bool showDefault) {
     IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
@@ -100,9 +98,9 @@ int CoreSession::parse(std::vector<std::string> args, Source source, SourceValue
     if (!args.empty() && args[0] == kTraceSwitch) {
         args[0] = std::string("--") + kCollectorName + "=" + args[0];
     }
-    args.insert(args.begin(), std::string());
     std::vector<char*> argv;
-    argv.reserve(args.size());
+    argv.reserve(args.size() + 1);
+    argv.push_back(m_programName);
     for (std::string& arg : args) {
         argv.push_back(arg.data());
     }

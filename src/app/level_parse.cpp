@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
+#include <iterator>
+#include <utility>
 
 #include "app/command_match.h"
 #include "app/command_suggestion.h"
@@ -35,15 +37,20 @@ std::string upperName(std::string const& name) {
 
 }  // namespace
 
-LevelParse::LevelParse(AppState& app, AppState const& root) : m_app(app), m_root(root), m_session(app, &app == &root) {}
+LevelParse::LevelParse(AppState& app, AppState const& root)
+    : m_app(app),
+      m_root(root),
+      m_session(app, &app == &root),
+      m_line(m_session.layout().size()),
+      m_positionalCounts(app.m_options.size()) {}
 
-bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits) {
+bool LevelParse::run(std::vector<std::string> args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
     // A command's arguments are numbered after everything its parents took.
     for (Entry const& entry : out.m_entries) {
         m_session.startAfter(entry.sequence);
     }
-    int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
+    int const code = m_session.parse(std::move(args), Source::CommandLine, m_line, m_rest, error);
     m_lineEnd = m_session.lastSequence();
     if (stopAtBuiltin(out)) {
         return false;
@@ -61,14 +68,14 @@ bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std:
 }
 
 bool LevelParse::stopAtBuiltin(ResultData& out) {
-    BuiltinNames const& builtins = m_session.builtins();
-    auto const given = [&](std::string const& name) { return !name.empty() && m_line.count(name) != 0; };
-    if (given(builtins.help)) {
+    SlotLayout const& layout = m_session.layout();
+    auto const given = [&](std::size_t slot) { return m_line[slot].count != 0; };
+    if (given(layout.help())) {
         out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
-    } else if (given(builtins.version)) {
+    } else if (given(layout.version())) {
         out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
-    } else if (given(builtins.completion) && !m_line[builtins.completion].entries.empty()) {
-        out.m_message = completionScript(m_root, m_line[builtins.completion].entries.back().text);
+    } else if (given(layout.completion()) && !m_line[layout.completion()].entries.empty()) {
+        out.m_message = completionScript(m_root, m_line[layout.completion()].entries.back().text);
     } else {
         return false;
     }
@@ -87,12 +94,8 @@ bool LevelParse::fail(ResultData& out, std::string const& message, std::string c
 }
 
 bool LevelParse::readFiles(ResultData& out) {
-    for (FileOption const& file : m_app.m_files) {
-        auto const found = m_line.find(file.names.front());
-        if (found == m_line.end()) {
-            continue;
-        }
-        for (Entry const& path : found->second.entries) {
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        for (Entry const& path : m_line[m_session.layout().file(j)].entries) {
             if (!readFile(path.text, out)) {
                 return false;
             }
@@ -120,9 +123,9 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
         SourceValues scratch;
         std::vector<std::string> rest;
         std::string again;
-        std::vector<std::string> const prefix(file.arguments.begin(),
-                                              file.arguments.begin() + static_cast<std::ptrdiff_t>(count));
-        if (m_session.parse(prefix, Source::File, scratch, rest, again) != 0 && again == error) {
+        std::vector<std::string> prefix(file.arguments.begin(),
+                                        file.arguments.begin() + static_cast<std::ptrdiff_t>(count));
+        if (m_session.parse(std::move(prefix), Source::File, scratch, rest, again) != 0 && again == error) {
             return file.lines[count - 1];
         }
     }
@@ -172,45 +175,53 @@ std::string LevelParse::variableOf(OptionState const& option) const {
 }
 
 // The command line wins over the environment, the environment over the files.
-OptionValues const* LevelParse::winner(std::string const& name) const {
-    for (SourceValues const* source : {&m_line, &m_environment, &m_files}) {
-        auto const found = source->find(name);
-        if (found != source->end() && found->second.count > 0) {
-            return &found->second;
+OptionValues* LevelParse::winner(std::size_t slot) {
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        if (slot < source->size() && (*source)[slot].count > 0) {
+            return &(*source)[slot];
         }
     }
     return nullptr;
 }
 
-bool LevelParse::given(std::string const& name) const {
-    OptionState const* option = m_app.find(name);
-    if (option == nullptr) {
+bool LevelParse::given(std::string const& name) {
+    std::size_t const index = m_app.optionIndex(name);
+    if (index == AppState::kNoOption) {
         return false;
     }
-    if (option->positional()) {
-        auto const found = m_positionalCounts.find(option->name());
-        return found != m_positionalCounts.end() && found->second > 0;
+    if (m_app.m_options[index]->positional()) {
+        return m_positionalCounts[index] > 0;
     }
-    return winner(option->name()) != nullptr;
+    return winner(m_session.layout().option(index)) != nullptr;
 }
 
+// The winners' entries move into the result: nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
-    for (auto const& option : m_app.m_options) {
-        if (option->positional()) {
-            out.m_counts.push_back(CountedOption{option->sharedNames(), m_positionalCounts[option->name()]});
+    SlotLayout const& layout = m_session.layout();
+    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), m_app.m_options.size()});
+    std::size_t taken = out.m_entries.size();
+    for (std::size_t i = 0; i < m_app.m_options.size(); ++i) {
+        OptionValues const* values = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
+        taken += values == nullptr ? 0 : values->entries.size();
+    }
+    out.m_entries.reserve(taken);
+    out.m_counts.reserve(out.m_counts.size() + m_app.m_options.size() + m_app.m_files.size());
+    commits.reserve(commits.size() + m_app.m_options.size());
+    for (std::size_t i = 0; i < m_app.m_options.size(); ++i) {
+        OptionState& option = *m_app.m_options[i];
+        if (option.positional()) {
+            out.m_counts.push_back(m_positionalCounts[i]);
             continue;
         }
-        OptionValues const* values = winner(option->name());
-        out.m_counts.push_back(CountedOption{option->sharedNames(), values == nullptr ? 0 : values->count});
+        OptionValues* values = winner(layout.option(i));
+        out.m_counts.push_back(values == nullptr ? 0 : values->count);
         if (values != nullptr) {
-            out.m_entries.insert(out.m_entries.end(), values->entries.begin(), values->entries.end());
-            commits.push_back(Commit{&option->binding(), textsOf(*values)});
+            commits.push_back(Commit{&option.binding(), out.m_entries.size(), values->entries.size()});
+            std::move(values->entries.begin(), values->entries.end(), std::back_inserter(out.m_entries));
         }
     }
-    for (FileOption const& file : m_app.m_files) {
-        auto const found = m_line.find(file.names.front());
-        out.m_counts.push_back(CountedOption{std::make_shared<std::vector<std::string> const>(file.names),
-                                             found == m_line.end() ? 0 : found->second.count});
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        out.m_counts.push_back(m_line[layout.file(j)].count);
     }
 }
 
@@ -218,7 +229,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     if (!m_app.m_commands.empty()) {
         return true;
     }
-    OptionValues const* collected = winner(CoreSession::collector());
+    OptionValues const* collected = winner(m_session.layout().collector());
     std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
     std::size_t const beforeTerminator = plain.size();
     // The library numbers each argument after "--" in turn once the others are
@@ -228,26 +239,26 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         plain.push_back(Entry{std::string(), text, ++sequence, Source::CommandLine});
     }
     std::size_t next = 0;
-    for (auto const& option : m_app.m_options) {
-        if (!option->positional()) {
+    for (std::size_t index = 0; index < m_app.m_options.size(); ++index) {
+        OptionState& option = *m_app.m_options[index];
+        if (!option.positional()) {
             continue;
         }
         std::size_t const take =
-            option->binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
-        std::vector<std::string> texts;
+            option.binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
+        std::size_t const first = out.m_entries.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
             Entry entry = plain[next];
-            std::string const reason = checkPositional(*option, entry.text);
+            std::string const reason = checkPositional(option, entry.text);
             if (!reason.empty()) {
                 return fail(out, reason);
             }
-            entry.name = option->name();
-            out.m_entries.push_back(entry);
-            texts.push_back(entry.text);
+            entry.name = option.name();
+            out.m_entries.push_back(std::move(entry));
         }
-        m_positionalCounts[option->name()] = texts.size();
-        if (!texts.empty()) {
-            commits.push_back(Commit{&option->binding(), texts});
+        m_positionalCounts[index] = take;
+        if (take != 0) {
+            commits.push_back(Commit{&option.binding(), first, take});
         }
     }
     if (next < beforeTerminator) {
@@ -259,7 +270,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     return true;
 }
 
-bool LevelParse::checkRelations(ResultData& out) const {
+bool LevelParse::checkRelations(ResultData& out) {
     for (auto const& option : m_app.m_options) {
         bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
         if (!option->m_required && !relates) {
@@ -300,12 +311,11 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     if (m_app.m_commands.empty()) {
         return true;
     }
-    auto const found = m_line.find(CoreSession::collector());
-    if (found == m_line.end() || found->second.entries.empty()) {
+    std::vector<Entry> const& plain = m_line[m_session.layout().collector()].entries;
+    if (plain.empty()) {
         out.m_rest.insert(out.m_rest.end(), m_rest.begin(), m_rest.end());
         return true;
     }
-    std::vector<Entry> const& plain = found->second.entries;
     std::vector<std::string> names;
     for (auto const& command : m_app.m_commands) {
         names.push_back(AppState::of(*command).m_name);
@@ -328,10 +338,10 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     }
     out.m_command.push_back(matches.front());
     auto const index = static_cast<std::size_t>(std::find(names.begin(), names.end(), matches.front()) - names.begin());
-    return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(args, out, commits);
+    return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(std::move(args), out, commits);
 }
 
-void parseProgram(AppState& app, std::vector<std::string> const& args, ResultData& out) {
+void parseProgram(AppState& app, std::vector<std::string> args, ResultData& out) {
     std::string const mistake = app.mistake();
     if (!mistake.empty()) {
         out.m_done = true;
@@ -340,13 +350,17 @@ void parseProgram(AppState& app, std::vector<std::string> const& args, ResultDat
         return;
     }
     std::vector<Commit> commits;
-    if (LevelParse(app, app).run(args, out, commits)) {
+    if (LevelParse(app, app).run(std::move(args), out, commits)) {
         for (Commit const& commit : commits) {
-            commit.binding->assign(commit.texts);
+            Entry const* const first = out.m_entries.data() + commit.first;
+            commit.binding->assign(first, first + commit.count);
         }
     }
-    std::stable_sort(out.m_entries.begin(), out.m_entries.end(),
-                     [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; });
+    auto const bySequence = [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; };
+    // Options given in the order they were declared leave nothing to sort.
+    if (!std::is_sorted(out.m_entries.begin(), out.m_entries.end(), bySequence)) {
+        std::stable_sort(out.m_entries.begin(), out.m_entries.end(), bySequence);
+    }
 }
 
 }  // namespace quen_3_1::app_detail

@@ -3,8 +3,6 @@
 #ifndef QUEN_3_1_SRC_APP_SOURCE_VALUES_H
 #define QUEN_3_1_SRC_APP_SOURCE_VALUES_H
 
-#include <map>
-#include <string>
 #include <vector>
 
 #include "quen_3_1/app.h"
@@ -16,11 +14,8 @@ struct OptionValues {
     std::vector<Entry> entries;
 };
 
-// By the option's first name.
-using SourceValues = std::map<std::string, OptionValues>;
-
-// The texts of the entries, in order.
-std::vector<std::string> textsOf(OptionValues const& values);
+// One per slot of the level's SlotLayout.
+using SourceValues = std::vector<OptionValues>;
 
 }  // namespace quen_3_1::app_detail
 

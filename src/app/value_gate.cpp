@@ -5,29 +5,40 @@
 
 namespace quen_3_1::app_detail {
 
-ValueGate::ValueGate(std::string collector) : m_collector(std::move(collector)) {}
-
-void ValueGate::watch(OptionState const& option) { m_watched[option.name()] = &option; }
+ValueGate::ValueGate(AppState const& app, SlotLayout const& layout) : m_app(app), m_layout(layout) {}
 
 void ValueGate::begin(Source source, SourceValues& into) {
     m_source = source;
     m_into = &into;
+    if (into.size() < m_layout.size()) {
+        into.resize(m_layout.size());
+    }
     m_refusal.clear();
     m_unknown.clear();
     m_emptyArgument = false;
 }
 
+// A value event follows the event of its option: the name is looked up once.
+std::size_t ValueGate::slotOf(char const* name) {
+    if (m_lastSlot < m_layout.options() && m_app.m_options[m_lastSlot]->name() == name) {
+        return m_lastSlot;
+    }
+    m_lastSlot = m_layout.of(name);
+    return m_lastSlot;
+}
+
 void ValueGate::startAfter(std::int32_t sequence) { m_lastSequence = std::max(m_lastSequence, sequence); }
 
 bool ValueGate::onOptionParse(char const* name) {
-    if (m_into == nullptr) {
+    std::size_t const slot = slotOf(name);
+    if (m_into == nullptr || slot == m_layout.size()) {
         return true;
     }
-    OptionValues& values = (*m_into)[name];
+    OptionValues& values = (*m_into)[slot];
     ++values.count;
     // A plain argument may be empty: it then comes without a value event. Its
     // occurrence took the next number after the last value, which no event tells.
-    m_emptyArgument = name == m_collector;
+    m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
         values.entries.push_back(Entry{name, std::string(), ++m_lastSequence, m_source});
     }
@@ -35,26 +46,26 @@ bool ValueGate::onOptionParse(char const* name) {
 }
 
 bool ValueGate::onValueParse(char const* name, Value const& value) {
-    if (m_into == nullptr) {
+    std::size_t const slot = slotOf(name);
+    if (m_into == nullptr || slot == m_layout.size()) {
         return true;
     }
-    std::string const text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
-    auto const watched = m_watched.find(name);
-    if (watched != m_watched.end()) {
-        m_refusal = watched->second->binding().check(name, text);
+    std::string text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
+    if (slot < m_layout.options()) {
+        m_refusal = m_app.m_options[slot]->binding().check(name, text);
         if (!m_refusal.empty()) {
             return false;
         }
     }
     m_lastSequence = value.m_index;
-    OptionValues& values = (*m_into)[name];
+    OptionValues& values = (*m_into)[slot];
     if (m_emptyArgument && !values.entries.empty()) {
-        values.entries.back().text = text;
+        values.entries.back().text = std::move(text);
         values.entries.back().sequence = value.m_index;
         m_emptyArgument = false;
         return true;
     }
-    values.entries.push_back(Entry{name, text, value.m_index, m_source});
+    values.entries.push_back(Entry{name, std::move(text), value.m_index, m_source});
     return true;
 }
 
