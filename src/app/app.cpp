@@ -17,10 +17,10 @@ namespace app_detail {
 
 namespace {
 
-std::vector<std::string> argumentsOf(int argc, char const* const* argv) {
-    std::vector<std::string> args;
+Arguments argumentsOf(int argc, char const* const* argv) {
+    Arguments args;
     for (int i = 1; argv != nullptr && i < argc; ++i) {
-        args.emplace_back(argv[i] == nullptr ? "" : argv[i]);
+        args.push_back(argv[i] == nullptr ? "" : argv[i]);
     }
     return args;
 }

@@ -1,5 +1,7 @@
 #include "app/core_session.h"
 
+#include <cstring>
+
 #include "app/collector_name.h"
 #include "app/messages.h"
 #include "quen_3_1/extras.h"
@@ -88,21 +90,24 @@ void CoreSession::registerBuiltins(AppState const& app, bool top) {
     }
 }
 
-int CoreSession::parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+int CoreSession::parse(Arguments const& args, Source source, SourceValues& into, std::vector<std::string>& rest,
                        std::string& error) {
     if (m_parser == nullptr) {
         error = "the library could not make a parser";
         return 3;
     }
-    // The library would switch its trace on for this first argument; the layer never prints.
-    if (!args.empty() && args[0] == kTraceSwitch) {
-        args[0] = std::string("--") + kCollectorName + "=" + args[0];
-    }
     std::vector<char*> argv;
     argv.reserve(args.size() + 1);
     argv.push_back(m_programName);
-    for (std::string& arg : args) {
-        argv.push_back(arg.data());
+    for (char const* arg : args) {
+        // The library's signature predates const: it copies the arguments and never writes to them.
+        argv.push_back(const_cast<char*>(arg));
+    }
+    // The library would switch its trace on for this first argument; the layer never prints.
+    std::string traceless;
+    if (!args.empty() && std::strcmp(args[0], kTraceSwitch) == 0) {
+        traceless = std::string("--") + kCollectorName + "=" + args[0];
+        argv[1] = traceless.data();
     }
     ResultHandle handle;
     m_parser->createResult(&handle.result);

@@ -13,6 +13,9 @@
 
 namespace quen_3_1::app_detail {
 
+// Arguments to parse (no program name): texts that outlive the parse, not copied.
+using Arguments = std::vector<char const*>;
+
 class CoreSession {
 public:
     // `top`: the App is the program itself (it gets --completion). `showDefaults`: the options
@@ -24,7 +27,7 @@ public:
 
     // Parses `args` (no program name) as coming from `source`; `rest` gets what
     // follows "--". Returns 0 or the library's code with `error` set.
-    int parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+    int parse(Arguments const& args, Source source, SourceValues& into, std::vector<std::string>& rest,
               std::string& error);
     // Where parse records each option's values.
     SlotLayout const& layout() const { return m_layout; }

@@ -27,6 +27,16 @@ bool isOneOf(std::string const& word, char const* const (&words)[4]) {
     return std::any_of(std::begin(words), std::end(words), [&](char const* w) { return word == w; });
 }
 
+// The first `count` arguments of the file.
+Arguments argumentsOf(FileArguments const& file, std::size_t count) {
+    Arguments args;
+    args.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        args.push_back(file.arguments[i].c_str());
+    }
+    return args;
+}
+
 std::string upperName(std::string const& name) {
     std::string variable;
     for (char c : name) {
@@ -44,13 +54,13 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
       m_line(m_session.layout().size()),
       m_positionalCounts(app.m_options.size()) {}
 
-bool LevelParse::run(std::vector<std::string> args, ResultData& out, std::vector<Commit>& commits) {
+bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
     // A command's arguments are numbered after everything its parents took.
     for (Entry const& entry : out.m_entries) {
         m_session.startAfter(entry.sequence);
     }
-    int const code = m_session.parse(std::move(args), Source::CommandLine, m_line, m_rest, error);
+    int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
     m_lineEnd = m_session.lastSequence();
     if (stopAtBuiltin(out)) {
         return false;
@@ -111,7 +121,7 @@ bool LevelParse::readFile(std::string const& path, ResultData& out) {
     }
     std::vector<std::string> rest;
     std::string error;
-    if (m_session.parse(file.arguments, Source::File, m_files, rest, error) != 0) {
+    if (m_session.parse(argumentsOf(file, file.arguments.size()), Source::File, m_files, rest, error) != 0) {
         return fail(out, text::inFile(path, failingLine(file, error), error));
     }
     return true;
@@ -123,9 +133,7 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
         SourceValues scratch;
         std::vector<std::string> rest;
         std::string again;
-        std::vector<std::string> prefix(file.arguments.begin(),
-                                        file.arguments.begin() + static_cast<std::ptrdiff_t>(count));
-        if (m_session.parse(std::move(prefix), Source::File, scratch, rest, again) != 0 && again == error) {
+        if (m_session.parse(argumentsOf(file, count), Source::File, scratch, rest, again) != 0 && again == error) {
             return file.lines[count - 1];
         }
     }
@@ -157,7 +165,7 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
     }
     std::vector<std::string> rest;
     std::string error;
-    if (m_session.parse({argument}, Source::Environment, m_environment, rest, error) != 0) {
+    if (m_session.parse({argument.c_str()}, Source::Environment, m_environment, rest, error) != 0) {
         return fail(out, text::inVariable(variable, libraryReason(error, argument)));
     }
     return true;
@@ -328,20 +336,22 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     if (matches.size() != 1) {
         return fail(out, text::ambiguousCommand(plain.front().text, matches));
     }
-    std::vector<std::string> args;
+    Arguments args;
     for (auto entry = plain.begin() + 1; entry != plain.end(); ++entry) {
-        args.push_back(entry->text);
+        args.push_back(entry->text.c_str());
     }
     if (!m_rest.empty()) {
-        args.emplace_back("--");
-        args.insert(args.end(), m_rest.begin(), m_rest.end());
+        args.push_back("--");
+        for (std::string const& text : m_rest) {
+            args.push_back(text.c_str());
+        }
     }
     out.m_command.push_back(matches.front());
     auto const index = static_cast<std::size_t>(std::find(names.begin(), names.end(), matches.front()) - names.begin());
-    return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(std::move(args), out, commits);
+    return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(args, out, commits);
 }
 
-void parseProgram(AppState& app, std::vector<std::string> args, ResultData& out) {
+void parseProgram(AppState& app, Arguments const& args, ResultData& out) {
     std::string const mistake = app.mistake();
     if (!mistake.empty()) {
         out.m_done = true;
@@ -350,7 +360,7 @@ void parseProgram(AppState& app, std::vector<std::string> args, ResultData& out)
         return;
     }
     std::vector<Commit> commits;
-    if (LevelParse(app, app).run(std::move(args), out, commits)) {
+    if (LevelParse(app, app).run(args, out, commits)) {
         for (Commit const& commit : commits) {
             Entry const* const first = out.m_entries.data() + commit.first;
             commit.binding->assign(first, first + commit.count);

@@ -29,7 +29,7 @@ public:
     LevelParse(AppState& app, AppState const& root);
 
     // False when parsing stops at this level: help, version, completion or an error, in `out`.
-    bool run(std::vector<std::string> args, ResultData& out, std::vector<Commit>& commits);
+    bool run(Arguments const& args, ResultData& out, std::vector<Commit>& commits);
 
 private:
     bool stopAtBuiltin(ResultData& out);
@@ -63,7 +63,7 @@ private:
 };
 
 // The whole parse of a program: declaration mistakes first, then every level.
-void parseProgram(AppState& app, std::vector<std::string> args, ResultData& out);
+void parseProgram(AppState& app, Arguments const& args, ResultData& out);
 
 }  // namespace quen_3_1::app_detail
 

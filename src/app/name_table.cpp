@@ -1,27 +1,23 @@
 #include "app/name_table.h"
 
-#include <utility>
-
 namespace quen_3_1::app_detail {
 
 namespace {
 
+// Small enough for the allocator's quick bins, large enough for a few dozen names.
 std::size_t const kFirstCapacity = 64;
+std::size_t const kFirstText = 256;
 
 // FNV-1a: names are short, so a simple hash beats a strong one here.
-std::uint64_t hashOf(std::string_view name) {
+std::size_t hashOf(std::string_view name) {
     std::uint64_t hash = 14695981039346656037ULL;
     for (char const c : name) {
         hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
     }
-    return hash;
+    return static_cast<std::size_t>(hash);
 }
 
 }  // namespace
-
-std::size_t NameTable::home(std::string_view name) const {
-    return static_cast<std::size_t>(hashOf(name)) & (m_slots.size() - 1);
-}
 
 std::uint32_t NameTable::find(std::string_view name) const {
     return m_slots.empty() ? kNone : m_slots[slotOf(name)].id;
@@ -36,8 +32,8 @@ std::uint32_t NameTable::insert(std::string_view name, std::uint32_t id) {
     if (slot.id != kNone) {
         return slot.id;
     }
-    slot.name.assign(name);
-    slot.id = id;
+    slot = Slot{id, static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(name.size())};
+    m_text.append(name);
     ++m_used;
     return kNone;
 }
@@ -46,8 +42,8 @@ void NameTable::update(std::string_view name, std::uint32_t id) { m_slots[slotOf
 
 std::size_t NameTable::slotOf(std::string_view name) const {
     std::size_t const mask = m_slots.size() - 1;
-    std::size_t i = home(name);
-    while (m_slots[i].id != kNone && m_slots[i].name != name) {
+    std::size_t i = hashOf(name) & mask;
+    while (m_slots[i].id != kNone && nameOf(m_slots[i]) != name) {
         i = (i + 1) & mask;
     }
     return i;
@@ -56,11 +52,12 @@ std::size_t NameTable::slotOf(std::string_view name) const {
 void NameTable::grow() {
     std::vector<Slot> old(m_slots.empty() ? kFirstCapacity : 2 * m_slots.size());
     old.swap(m_slots);
-    m_used = 0;
-    for (Slot& slot : old) {
+    if (old.empty()) {
+        m_text.reserve(kFirstText);
+    }
+    for (Slot const& slot : old) {
         if (slot.id != kNone) {
-            m_slots[slotOf(slot.name)] = std::move(slot);
-            ++m_used;
+            m_slots[slotOf(nameOf(slot))] = slot;
         }
     }
 }

@@ -1,6 +1,7 @@
 // The names one App level answers to, each with a small number that says
-// what it names: a flat open-addressing table, so that declaring, parsing and
-// reading a result back look a name up without building a string or a node.
+// what it names: a flat open-addressing table over one text that holds every
+// name, so that declaring, parsing and reading a result back look a name up
+// without building a string or a node.
 #ifndef QUEN_3_1_SRC_APP_NAME_TABLE_H
 #define QUEN_3_1_SRC_APP_NAME_TABLE_H
 
@@ -25,16 +26,18 @@ public:
 
 private:
     struct Slot {
-        std::string name;
         std::uint32_t id = kNone;
+        std::uint32_t offset = 0;  // of the name in m_text
+        std::uint32_t size = 0;
     };
 
-    std::size_t home(std::string_view name) const;
+    std::string_view nameOf(Slot const& slot) const { return std::string_view(m_text).substr(slot.offset, slot.size); }
     // The slot that holds `name`, else the empty slot where it goes.
     std::size_t slotOf(std::string_view name) const;
     void grow();
 
     std::vector<Slot> m_slots;
+    std::string m_text;
     std::size_t m_used = 0;
 };
 
