@@ -53,7 +53,8 @@ template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
     auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
     Option<T>& handle = bound->handle();
-    m_state->add(std::move(names), std::move(help), false, std::move(bound));
+    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
+    m_state->add(std::move(names), std::move(help), false, std::move(state));
     return handle;
 }
 
@@ -61,7 +62,8 @@ template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
     auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
     Option<T>& handle = bound->handle();
-    m_state->add(std::move(name), std::move(help), true, std::move(bound));
+    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
+    m_state->add(std::move(name), std::move(help), true, std::move(state));
     return handle;
 }
 
