@@ -30,8 +30,13 @@ std::size_t ValueGate::slotOf(char const* name) {
 void ValueGate::startAfter(std::int32_t sequence) { m_lastSequence = std::max(m_lastSequence, sequence); }
 
 bool ValueGate::onOptionParse(char const* name) {
+    if (m_into == nullptr) {
+        return true;
+    }
     std::size_t const slot = slotOf(name);
-    if (m_into == nullptr || slot == m_layout.size()) {
+    // A name the App does not know (cut short at a NUL by the library) is not recorded.
+    if (slot == m_layout.size()) {
+        m_emptyArgument = false;
         return true;
     }
     OptionValues& values = (*m_into)[slot];
@@ -46,8 +51,12 @@ bool ValueGate::onOptionParse(char const* name) {
 }
 
 bool ValueGate::onValueParse(char const* name, Value const& value) {
+    if (m_into == nullptr) {
+        return true;
+    }
     std::size_t const slot = slotOf(name);
-    if (m_into == nullptr || slot == m_layout.size()) {
+    if (slot == m_layout.size()) {
+        m_lastSequence = value.m_index;
         return true;
     }
     std::string text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
