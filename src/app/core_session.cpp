@@ -111,7 +111,7 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
     }
     ResultHandle handle;
     m_parser->createResult(&handle.result);
-    m_gate.begin(source, into);
+    m_gate.begin(source, into, args.size());
     int const code = m_parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), handle.result);
     if (code != 0) {
         error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();

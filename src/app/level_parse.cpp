@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
-#include <iterator>
 #include <utility>
 
 #include "app/command_match.h"
@@ -51,7 +50,7 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
     : m_app(app),
       m_root(root),
       m_session(app, &app == &root),
-      m_line(m_session.layout().size()),
+      m_line{{}, {}, std::vector<std::size_t>(m_session.layout().size())},
       m_positionalCounts(app.m_options.size()) {}
 
 bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
@@ -79,13 +78,14 @@ bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>
 
 bool LevelParse::stopAtBuiltin(ResultData& out) {
     SlotLayout const& layout = m_session.layout();
-    auto const given = [&](std::size_t slot) { return m_line[slot].count != 0; };
+    auto const given = [&](std::size_t slot) { return m_line.counts[slot] != 0; };
+    Entry const* const shell = lastOf(m_line, layout.completion());
     if (given(layout.help())) {
         out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
     } else if (given(layout.version())) {
         out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
-    } else if (given(layout.completion()) && !m_line[layout.completion()].entries.empty()) {
-        out.m_message = completionScript(m_root, m_line[layout.completion()].entries.back().text);
+    } else if (given(layout.completion()) && shell != nullptr) {
+        out.m_message = completionScript(m_root, shell->text);
     } else {
         return false;
     }
@@ -105,7 +105,7 @@ bool LevelParse::fail(ResultData& out, std::string const& message, std::string c
 
 bool LevelParse::readFiles(ResultData& out) {
     for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
-        for (Entry const& path : m_line[m_session.layout().file(j)].entries) {
+        for (Entry const& path : entriesOf(m_line, m_session.layout().file(j))) {
             if (!readFile(path.text, out)) {
                 return false;
             }
@@ -183,10 +183,10 @@ std::string LevelParse::variableOf(OptionState const& option) const {
 }
 
 // The command line wins over the environment, the environment over the files.
-OptionValues* LevelParse::winner(std::size_t slot) {
+SourceValues* LevelParse::winner(std::size_t slot) {
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
-        if (slot < source->size() && (*source)[slot].count > 0) {
-            return &(*source)[slot];
+        if (slot < source->counts.size() && source->counts[slot] > 0) {
+            return source;
         }
     }
     return nullptr;
@@ -203,33 +203,46 @@ bool LevelParse::given(std::string const& name) {
     return winner(m_session.layout().option(index)) != nullptr;
 }
 
-// The winners' entries move into the result: nothing reads them here afterwards.
+// The winners' entries move into the result, each option's together in declaration order:
+// counted first, then placed. Nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     SlotLayout const& layout = m_session.layout();
-    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), m_app.m_options.size()});
-    std::size_t taken = out.m_entries.size();
-    for (std::size_t i = 0; i < m_app.m_options.size(); ++i) {
-        OptionValues const* values = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
-        taken += values == nullptr ? 0 : values->entries.size();
-    }
-    out.m_entries.reserve(taken);
-    out.m_counts.reserve(out.m_counts.size() + m_app.m_options.size() + m_app.m_files.size());
-    commits.reserve(commits.size() + m_app.m_options.size());
-    for (std::size_t i = 0; i < m_app.m_options.size(); ++i) {
-        OptionState& option = *m_app.m_options[i];
-        if (option.positional()) {
-            out.m_counts.push_back(m_positionalCounts[i]);
-            continue;
+    std::size_t const options = m_app.m_options.size();
+    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), options});
+    auto const taken = [&](SourceValues* source, std::size_t slot) {
+        return slot < layout.options() && !m_app.m_options[slot]->positional() && winner(slot) == source;
+    };
+    std::vector<std::size_t> place(options + 1);
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        for (std::uint32_t const slot : source->slots) {
+            if (taken(source, slot)) {
+                ++place[slot + 1];
+            }
         }
-        OptionValues* values = winner(layout.option(i));
-        out.m_counts.push_back(values == nullptr ? 0 : values->count);
-        if (values != nullptr) {
-            commits.push_back(Commit{&option.binding(), out.m_entries.size(), values->entries.size()});
-            std::move(values->entries.begin(), values->entries.end(), std::back_inserter(out.m_entries));
+    }
+    std::size_t const base = out.m_entries.size();
+    out.m_counts.reserve(out.m_counts.size() + options + m_app.m_files.size());
+    commits.reserve(commits.size() + options);
+    for (std::size_t i = 0; i < options; ++i) {
+        place[i + 1] += place[i];
+        SourceValues const* source = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
+        out.m_counts.push_back(m_app.m_options[i]->positional() ? m_positionalCounts[i]
+                                                                : (source == nullptr ? 0 : source->counts[i]));
+        if (place[i + 1] != place[i]) {
+            commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
+        }
+    }
+    out.m_entries.resize(base + place[options], Entry{});
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        for (std::size_t k = 0; k < source->entries.size(); ++k) {
+            std::size_t const slot = source->slots[k];
+            if (taken(source, slot)) {
+                out.m_entries[base + place[slot]++] = std::move(source->entries[k]);
+            }
         }
     }
     for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
-        out.m_counts.push_back(m_line[layout.file(j)].count);
+        out.m_counts.push_back(m_line.counts[layout.file(j)]);
     }
 }
 
@@ -237,8 +250,9 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     if (!m_app.m_commands.empty()) {
         return true;
     }
-    OptionValues const* collected = winner(m_session.layout().collector());
-    std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
+    std::size_t const collector = m_session.layout().collector();
+    SourceValues const* collected = winner(collector);
+    std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : entriesOf(*collected, collector);
     std::size_t const beforeTerminator = plain.size();
     // The library numbers each argument after "--" in turn once the others are
     // parsed but does not hand the numbers out: these follow the last value's.
@@ -319,7 +333,7 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     if (m_app.m_commands.empty()) {
         return true;
     }
-    std::vector<Entry> const& plain = m_line[m_session.layout().collector()].entries;
+    std::vector<Entry> const plain = entriesOf(m_line, m_session.layout().collector());
     if (plain.empty()) {
         out.m_rest.insert(out.m_rest.end(), m_rest.begin(), m_rest.end());
         return true;

@@ -42,7 +42,7 @@ private:
     bool readVariable(OptionState const& option, std::string const& variable, ResultData& out);
     std::string variableOf(OptionState const& option) const;
     // The values of the option at `slot` from the source that wins, or null when no source gave it.
-    OptionValues* winner(std::size_t slot);
+    SourceValues* winner(std::size_t slot);
     bool given(std::string const& name);
     void takeNamed(ResultData& out, std::vector<Commit>& commits);
     bool fillPositionals(ResultData& out, std::vector<Commit>& commits);

@@ -7,11 +7,16 @@ namespace quen_3_1::app_detail {
 
 ValueGate::ValueGate(AppState const& app, SlotLayout const& layout) : m_app(app), m_layout(layout) {}
 
-void ValueGate::begin(Source source, SourceValues& into) {
+void ValueGate::begin(Source source, SourceValues& into, std::size_t arguments) {
     m_source = source;
     m_into = &into;
-    if (into.size() < m_layout.size()) {
-        into.resize(m_layout.size());
+    if (into.counts.size() < m_layout.size()) {
+        into.counts.resize(m_layout.size());
+    }
+    // Only the first time: a source parsed again (file after file) grows as vectors do.
+    if (into.entries.empty()) {
+        into.entries.reserve(arguments);
+        into.slots.reserve(arguments);
     }
     m_refusal.clear();
     m_unknown.clear();
@@ -39,13 +44,12 @@ bool ValueGate::onOptionParse(char const* name) {
         m_emptyArgument = false;
         return true;
     }
-    OptionValues& values = (*m_into)[slot];
-    ++values.count;
+    ++m_into->counts[slot];
     // A plain argument may be empty: it then comes without a value event. Its
     // occurrence took the next number after the last value, which no event tells.
     m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
-        values.entries.push_back(Entry{name, std::string(), ++m_lastSequence, m_source});
+        record(slot, Entry{name, std::string(), ++m_lastSequence, m_source});
     }
     return true;
 }
@@ -67,15 +71,20 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
         }
     }
     m_lastSequence = value.m_index;
-    OptionValues& values = (*m_into)[slot];
-    if (m_emptyArgument && !values.entries.empty()) {
-        values.entries.back().text = std::move(text);
-        values.entries.back().sequence = value.m_index;
+    Entry* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;
+    if (last != nullptr) {
+        last->text = std::move(text);
+        last->sequence = value.m_index;
         m_emptyArgument = false;
         return true;
     }
-    values.entries.push_back(Entry{name, std::move(text), value.m_index, m_source});
+    record(slot, Entry{name, std::move(text), value.m_index, m_source});
     return true;
+}
+
+void ValueGate::record(std::size_t slot, Entry entry) {
+    m_into->entries.push_back(std::move(entry));
+    m_into->slots.push_back(static_cast<std::uint32_t>(slot));
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {

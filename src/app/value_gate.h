@@ -18,8 +18,9 @@ public:
     // Values of `app`'s options are checked by their bindings and recorded at their `layout` slots.
     ValueGate(AppState const& app, SlotLayout const& layout);
 
-    // Records what follows into `into`, as coming from `source`.
-    void begin(Source source, SourceValues& into);
+    // Records what follows into `into`, as coming from `source`; `arguments` is how many
+    // arguments follow, about as many as the values they give.
+    void begin(Source source, SourceValues& into, std::size_t arguments);
     // Numbers of what follows are greater than `sequence` (what an earlier parse recorded).
     void startAfter(std::int32_t sequence);
 
@@ -36,6 +37,7 @@ public:
 
 private:
     std::size_t slotOf(char const* name);
+    void record(std::size_t slot, Entry entry);
 
     AppState const& m_app;
     SlotLayout const& m_layout;
