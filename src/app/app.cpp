@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "app/app_state.h"
+#include "app/bound_option.h"
 #include "app/instance_types.h"
 #include "app/level_parse.h"
 #include "app/messages.h"
 #include "app/result_data.h"
-#include "app/typed_binding.h"
 
 namespace quen_3_1 {
 
@@ -17,19 +17,10 @@ namespace app_detail {
 
 namespace {
 
-// The host's handle on a declaration; the App owns it.
-template <class T>
-Option<T>& handOut(OptionState& state) {
-    auto handle = std::make_shared<Option<T>>(&state);
-    Option<T>& option = *handle;
-    state.m_handle = std::move(handle);
-    return option;
-}
-
-std::vector<std::string> argumentsOf(int argc, char const* const* argv) {
-    std::vector<std::string> args;
+Arguments argumentsOf(int argc, char const* const* argv) {
+    Arguments args;
     for (int i = 1; argv != nullptr && i < argc; ++i) {
-        args.emplace_back(argv[i] == nullptr ? "" : argv[i]);
+        args.push_back(argv[i] == nullptr ? "" : argv[i]);
     }
     return args;
 }
@@ -60,14 +51,20 @@ App& App::envPrefix(std::string prefix) {
 
 template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
-    std::unique_ptr<app_detail::Binding> binding = std::make_unique<app_detail::TypedBinding<T>>(target);
-    return app_detail::handOut<T>(m_state->add(std::move(names), std::move(help), false, std::move(binding)));
+    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
+    Option<T>& handle = bound->handle();
+    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
+    m_state->add(std::move(names), std::move(help), false, std::move(state));
+    return handle;
 }
 
 template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
-    std::unique_ptr<app_detail::Binding> binding = std::make_unique<app_detail::TypedBinding<T>>(target);
-    return app_detail::handOut<T>(m_state->add(std::move(name), std::move(help), true, std::move(binding)));
+    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
+    Option<T>& handle = bound->handle();
+    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
+    m_state->add(std::move(name), std::move(help), true, std::move(state));
+    return handle;
 }
 
 App& App::optionsFile(std::string names, std::string help) {

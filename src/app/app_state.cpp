@@ -4,19 +4,21 @@
 
 #include "app/collector_name.h"
 #include "app/messages.h"
+#include "app/name_id.h"
 #include "app/name_list.h"
 
 namespace quen_3_1::app_detail {
 
-AppState::AppState(std::string program, std::string about) : m_program(std::move(program)), m_about(std::move(about)) {}
+AppState::AppState(std::string program, std::string about)
+    : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
-OptionState& AppState::add(std::string names, std::string help, bool positional, std::unique_ptr<Binding> binding) {
+void AppState::add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state) {
     std::vector<std::string> split = splitNameList(names);
-    bool const flag = !positional && binding->kind() == tarvo2::vt_bool;
+    bool const flag = !positional && state->binding().kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
     if (!ok) {
         refuse(text::badName(names));
-    } else if (!take(occupiedNames(split, flag))) {
+    } else if (!take(split, flag, static_cast<std::uint32_t>(m_options.size()))) {
         ok = false;
     } else if (positional && m_vectorPositional) {
         refuse(text::positionalAfterVector(names));
@@ -25,23 +27,20 @@ OptionState& AppState::add(std::string names, std::string help, bool positional,
     if (split.empty()) {
         split.push_back(names);
     }
-    auto state = std::make_unique<OptionState>(std::move(names), std::move(split), std::move(help), positional,
-                                               std::move(binding));
-    OptionState& added = *state;
+    state->declare(std::move(names), std::move(split), std::move(help), positional);
     if (!ok) {
         m_refused.push_back(std::move(state));
-        return added;
+        return;
     }
-    m_vectorPositional = m_vectorPositional || (positional && added.binding().takesMany());
+    m_vectorPositional = m_vectorPositional || (positional && state->binding().takesMany());
     m_options.push_back(std::move(state));
-    return added;
 }
 
 void AppState::addFile(std::string names, std::string help) {
     std::vector<std::string> split = splitNameList(names);
     if (split.empty()) {
         refuse(text::badName(names));
-    } else if (take(split)) {
+    } else if (take(split, false, name_id::kFile | static_cast<std::uint32_t>(m_files.size()))) {
         m_files.push_back(FileOption{std::move(names), std::move(split), std::move(help), m_options.size()});
     }
 }
@@ -65,13 +64,14 @@ void AppState::addExclusive(std::vector<std::string> names, bool required) {
     m_exclusive.push_back(ExclusiveGroup{std::move(names), required});
 }
 
-OptionState const* AppState::find(std::string const& name) const {
-    for (auto const& option : m_options) {
-        if (option->answersTo(name)) {
-            return option.get();
-        }
-    }
-    return nullptr;
+OptionState const* AppState::find(std::string_view name) const {
+    std::size_t const index = optionIndex(name);
+    return index == kNoOption ? nullptr : m_options[index].get();
+}
+
+std::size_t AppState::optionIndex(std::string_view name) const {
+    std::uint32_t const id = m_names->find(name);
+    return id != NameTable::kNone && name_id::isOption(id) ? id : kNoOption;
 }
 
 std::string AppState::mistake() const {
@@ -87,18 +87,41 @@ std::string AppState::mistake() const {
     return found;
 }
 
-bool AppState::take(std::vector<std::string> const& names) {
+// In the order the library would meet them: each name, then a flag's no- form of it. A
+// refusal leaves the names before it claimed, which no one looks up: the App is refused.
+bool AppState::take(std::vector<std::string> const& names, bool flag, std::uint32_t id) {
+    if (m_names.use_count() > 1) {
+        m_names = std::make_shared<NameTable>(*m_names);
+    }
+    std::string negated;
     for (std::string const& name : names) {
-        if (name == kCollectorName) {
-            refuse(text::reservedName(name));
+        if (!claim(name, id)) {
             return false;
         }
-        if (m_taken.count(name) != 0) {
-            refuse(text::declaredTwice(name));
+        if (flag && !claim(negated.assign(kNegation).append(name), id | name_id::kNegated)) {
             return false;
         }
     }
-    m_taken.insert(names.begin(), names.end());
+    return true;
+}
+
+// A list may name the same option twice, or name a flag like its own no- form: a real name wins.
+bool AppState::claim(std::string const& name, std::uint32_t id) {
+    if (name == kCollectorName) {
+        refuse(text::reservedName(name));
+        return false;
+    }
+    std::uint32_t const held = m_names->insert(name, id);
+    if (held == NameTable::kNone) {
+        return true;
+    }
+    if ((held | name_id::kNegated) != (id | name_id::kNegated)) {
+        refuse(text::declaredTwice(name));
+        return false;
+    }
+    if ((id & name_id::kNegated) == 0) {
+        m_names->update(name, id);
+    }
     return true;
 }
 

@@ -3,11 +3,13 @@
 #ifndef QUEN_3_1_SRC_APP_APP_STATE_H
 #define QUEN_3_1_SRC_APP_APP_STATE_H
 
+#include <cstdint>
 #include <memory>
-#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "app/name_table.h"
 #include "app/option_state.h"
 #include "quen_3_1/app.h"
 
@@ -28,11 +30,13 @@ struct ExclusiveGroup {
 
 class AppState {
 public:
+    static constexpr std::size_t kNoOption = static_cast<std::size_t>(-1);
+
     AppState(std::string program, std::string about);
 
     // Declares an option or positional; a refused one is kept aside, so that the
     // host may still refine what it got back.
-    OptionState& add(std::string names, std::string help, bool positional, std::unique_ptr<Binding> binding);
+    void add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);
@@ -42,8 +46,15 @@ public:
     static AppState const& of(App const& app) { return *app.m_state; }
 
     // The declared option or positional answering to `name` exactly, or null.
-    OptionState const* find(std::string const& name) const;
-    bool isTaken(std::string const& name) const { return m_taken.count(name) != 0; }
+    OptionState const* find(std::string_view name) const;
+    // Its index in m_options, or kNoOption.
+    std::size_t optionIndex(std::string_view name) const;
+    // Taken by an option, a positional, an options-file option or a flag's no- form.
+    bool isTaken(std::string_view name) const { return m_names->contains(name); }
+    // Every name this App answers to (see name_id.h).
+    NameTable const& names() const { return *m_names; }
+    // The same, for a result to keep.
+    std::shared_ptr<NameTable const> sharedNames() const { return m_names; }
     // The first declaration mistake of this App or of its commands, or empty.
     std::string mistake() const;
 
@@ -59,11 +70,15 @@ public:
     std::vector<ExclusiveGroup> m_exclusive;
 
 private:
-    bool take(std::vector<std::string> const& names);
+    // Claims the names (a flag's no- forms too) for `id`; false (and the mistake kept) when
+    // one is taken or reserved.
+    bool take(std::vector<std::string> const& names, bool flag, std::uint32_t id);
+    bool claim(std::string const& name, std::uint32_t id);
     void refuse(std::string const& what);
     std::string referenceMistake() const;
 
-    std::set<std::string> m_taken;
+    // Shared with the results of earlier parses: copied before it changes.
+    std::shared_ptr<NameTable> m_names;
     std::vector<std::unique_ptr<OptionState>> m_refused;
     std::string m_mistake;
     bool m_vectorPositional = false;

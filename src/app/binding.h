@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "quen_3_1/quen.h"
+#include "quen_3_1/app.h"
 
 namespace quen_3_1::app_detail {
 
@@ -27,8 +27,8 @@ public:
     virtual void showDefault(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise.
     virtual std::string check(std::string const& option, std::string const& text) const = 0;
-    // Stores checked values in the variable (the last one unless it takes many).
-    virtual void assign(std::vector<std::string> const& texts) = 0;
+    // Stores the checked values [first, last) in the variable (the last one unless it takes many).
+    virtual void assign(Entry const* first, Entry const* last) = 0;
     // A declaration mistake of the refinements, or empty.
     virtual std::string mistake(std::string const& option) const = 0;
 };

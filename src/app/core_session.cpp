@@ -1,5 +1,7 @@
 #include "app/core_session.h"
 
+#include <cstring>
+
 #include "app/collector_name.h"
 #include "app/messages.h"
 #include "quen_3_1/extras.h"
@@ -28,7 +30,8 @@ struct ResultHandle {
 
 }  // namespace
 
-CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_gate(kCollectorName) {
+CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
+    : m_layout(app, m_builtins), m_gate(app, m_layout) {
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
@@ -46,7 +49,6 @@ CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults) : m_g
         if (!option.positional()) {
             registerOption(option, showDefaults);
         }
-        m_gate.watch(option);
     }
     registerBuiltins(app, top);
     m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
@@ -58,8 +60,6 @@ CoreSession::~CoreSession() {
         m_parser->destroy();
     }
 }
-
-char const* CoreSession::collector() { return kCollectorName; }
 
 void CoreSession::registerOption(OptionState const& option, bool showDefault) {
     IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
@@ -90,25 +90,28 @@ void CoreSession::registerBuiltins(AppState const& app, bool top) {
     }
 }
 
-int CoreSession::parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+int CoreSession::parse(Arguments const& args, Source source, SourceValues& into, std::vector<std::string>& rest,
                        std::string& error) {
     if (m_parser == nullptr) {
         error = "the library could not make a parser";
         return 3;
     }
-    // The library would switch its trace on for this first argument; the layer never prints.
-    if (!args.empty() && args[0] == kTraceSwitch) {
-        args[0] = std::string("--") + kCollectorName + "=" + args[0];
-    }
-    args.insert(args.begin(), std::string());
     std::vector<char*> argv;
-    argv.reserve(args.size());
-    for (std::string& arg : args) {
-        argv.push_back(arg.data());
+    argv.reserve(args.size() + 1);
+    argv.push_back(m_programName);
+    for (char const* arg : args) {
+        // The library's signature predates const: it copies the arguments and never writes to them.
+        argv.push_back(const_cast<char*>(arg));
+    }
+    // The library would switch its trace on for this first argument; the layer never prints.
+    std::string traceless;
+    if (!args.empty() && std::strcmp(args[0], kTraceSwitch) == 0) {
+        traceless = std::string("--") + kCollectorName + "=" + args[0];
+        argv[1] = traceless.data();
     }
     ResultHandle handle;
     m_parser->createResult(&handle.result);
-    m_gate.begin(source, into);
+    m_gate.begin(source, into, args.size());
     int const code = m_parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), handle.result);
     if (code != 0) {
         error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();

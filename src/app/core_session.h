@@ -8,16 +8,13 @@
 #include <vector>
 
 #include "app/app_state.h"
+#include "app/slot_layout.h"
 #include "app/value_gate.h"
 
 namespace quen_3_1::app_detail {
 
-// First names of the layer's own options; empty when the App did not get one.
-struct BuiltinNames {
-    std::string help;
-    std::string version;
-    std::string completion;
-};
+// Arguments to parse (no program name): texts that outlive the parse, not copied.
+using Arguments = std::vector<char const*>;
 
 class CoreSession {
 public:
@@ -30,8 +27,10 @@ public:
 
     // Parses `args` (no program name) as coming from `source`; `rest` gets what
     // follows "--". Returns 0 or the library's code with `error` set.
-    int parse(std::vector<std::string> args, Source source, SourceValues& into, std::vector<std::string>& rest,
+    int parse(Arguments const& args, Source source, SourceValues& into, std::vector<std::string>& rest,
               std::string& error);
+    // Where parse records each option's values.
+    SlotLayout const& layout() const { return m_layout; }
 
     // The typed names nearest to the unknown or ambiguous `argument`, best first.
     std::vector<std::string> suggestions(std::string const& argument);
@@ -45,16 +44,16 @@ public:
     // The greatest number recorded so far.
     std::int32_t lastSequence() const { return m_gate.lastSequence(); }
 
-    BuiltinNames const& builtins() const { return m_builtins; }
-    static char const* collector();
-
 private:
     void registerOption(OptionState const& option, bool showDefault);
     void registerBuiltins(AppState const& app, bool top);
 
     IParser* m_parser = nullptr;
-    ValueGate m_gate;
     BuiltinNames m_builtins;
+    SlotLayout m_layout;
+    ValueGate m_gate;
+    // The program name the library skips: it is never read.
+    char m_programName[1] = {};
 };
 
 }  // namespace quen_3_1::app_detail

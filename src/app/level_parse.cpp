@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 #include "app/command_match.h"
 #include "app/command_suggestion.h"
@@ -25,6 +26,16 @@ bool isOneOf(std::string const& word, char const* const (&words)[4]) {
     return std::any_of(std::begin(words), std::end(words), [&](char const* w) { return word == w; });
 }
 
+// The first `count` arguments of the file.
+Arguments argumentsOf(FileArguments const& file, std::size_t count) {
+    Arguments args;
+    args.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        args.push_back(file.arguments[i].c_str());
+    }
+    return args;
+}
+
 std::string upperName(std::string const& name) {
     std::string variable;
     for (char c : name) {
@@ -35,9 +46,14 @@ std::string upperName(std::string const& name) {
 
 }  // namespace
 
-LevelParse::LevelParse(AppState& app, AppState const& root) : m_app(app), m_root(root), m_session(app, &app == &root) {}
+LevelParse::LevelParse(AppState& app, AppState const& root)
+    : m_app(app),
+      m_root(root),
+      m_session(app, &app == &root),
+      m_line{{}, {}, std::vector<std::size_t>(m_session.layout().size())},
+      m_positionalCounts(app.m_options.size()) {}
 
-bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits) {
+bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
     // A command's arguments are numbered after everything its parents took.
     for (Entry const& entry : out.m_entries) {
@@ -61,14 +77,15 @@ bool LevelParse::run(std::vector<std::string> const& args, ResultData& out, std:
 }
 
 bool LevelParse::stopAtBuiltin(ResultData& out) {
-    BuiltinNames const& builtins = m_session.builtins();
-    auto const given = [&](std::string const& name) { return !name.empty() && m_line.count(name) != 0; };
-    if (given(builtins.help)) {
+    SlotLayout const& layout = m_session.layout();
+    auto const given = [&](std::size_t slot) { return m_line.counts[slot] != 0; };
+    Entry const* const shell = lastOf(m_line, layout.completion());
+    if (given(layout.help())) {
         out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
-    } else if (given(builtins.version)) {
+    } else if (given(layout.version())) {
         out.m_message = text::versionLine(m_app.m_program, m_app.m_version);
-    } else if (given(builtins.completion) && !m_line[builtins.completion].entries.empty()) {
-        out.m_message = completionScript(m_root, m_line[builtins.completion].entries.back().text);
+    } else if (given(layout.completion()) && shell != nullptr) {
+        out.m_message = completionScript(m_root, shell->text);
     } else {
         return false;
     }
@@ -87,12 +104,8 @@ bool LevelParse::fail(ResultData& out, std::string const& message, std::string c
 }
 
 bool LevelParse::readFiles(ResultData& out) {
-    for (FileOption const& file : m_app.m_files) {
-        auto const found = m_line.find(file.names.front());
-        if (found == m_line.end()) {
-            continue;
-        }
-        for (Entry const& path : found->second.entries) {
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        for (Entry const& path : entriesOf(m_line, m_session.layout().file(j))) {
             if (!readFile(path.text, out)) {
                 return false;
             }
@@ -108,7 +121,7 @@ bool LevelParse::readFile(std::string const& path, ResultData& out) {
     }
     std::vector<std::string> rest;
     std::string error;
-    if (m_session.parse(file.arguments, Source::File, m_files, rest, error) != 0) {
+    if (m_session.parse(argumentsOf(file, file.arguments.size()), Source::File, m_files, rest, error) != 0) {
         return fail(out, text::inFile(path, failingLine(file, error), error));
     }
     return true;
@@ -120,9 +133,7 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
         SourceValues scratch;
         std::vector<std::string> rest;
         std::string again;
-        std::vector<std::string> const prefix(file.arguments.begin(),
-                                              file.arguments.begin() + static_cast<std::ptrdiff_t>(count));
-        if (m_session.parse(prefix, Source::File, scratch, rest, again) != 0 && again == error) {
+        if (m_session.parse(argumentsOf(file, count), Source::File, scratch, rest, again) != 0 && again == error) {
             return file.lines[count - 1];
         }
     }
@@ -154,7 +165,7 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
     }
     std::vector<std::string> rest;
     std::string error;
-    if (m_session.parse({argument}, Source::Environment, m_environment, rest, error) != 0) {
+    if (m_session.parse({argument.c_str()}, Source::Environment, m_environment, rest, error) != 0) {
         return fail(out, text::inVariable(variable, libraryReason(error, argument)));
     }
     return true;
@@ -172,45 +183,66 @@ std::string LevelParse::variableOf(OptionState const& option) const {
 }
 
 // The command line wins over the environment, the environment over the files.
-OptionValues const* LevelParse::winner(std::string const& name) const {
-    for (SourceValues const* source : {&m_line, &m_environment, &m_files}) {
-        auto const found = source->find(name);
-        if (found != source->end() && found->second.count > 0) {
-            return &found->second;
+SourceValues* LevelParse::winner(std::size_t slot) {
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        if (slot < source->counts.size() && source->counts[slot] > 0) {
+            return source;
         }
     }
     return nullptr;
 }
 
-bool LevelParse::given(std::string const& name) const {
-    OptionState const* option = m_app.find(name);
-    if (option == nullptr) {
+bool LevelParse::given(std::string const& name) {
+    std::size_t const index = m_app.optionIndex(name);
+    if (index == AppState::kNoOption) {
         return false;
     }
-    if (option->positional()) {
-        auto const found = m_positionalCounts.find(option->name());
-        return found != m_positionalCounts.end() && found->second > 0;
+    if (m_app.m_options[index]->positional()) {
+        return m_positionalCounts[index] > 0;
     }
-    return winner(option->name()) != nullptr;
+    return winner(m_session.layout().option(index)) != nullptr;
 }
 
+// The winners' entries move into the result, each option's together in declaration order:
+// counted first, then placed. Nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
-    for (auto const& option : m_app.m_options) {
-        if (option->positional()) {
-            out.m_counts.push_back(CountedOption{option->sharedNames(), m_positionalCounts[option->name()]});
-            continue;
-        }
-        OptionValues const* values = winner(option->name());
-        out.m_counts.push_back(CountedOption{option->sharedNames(), values == nullptr ? 0 : values->count});
-        if (values != nullptr) {
-            out.m_entries.insert(out.m_entries.end(), values->entries.begin(), values->entries.end());
-            commits.push_back(Commit{&option->binding(), textsOf(*values)});
+    SlotLayout const& layout = m_session.layout();
+    std::size_t const options = m_app.m_options.size();
+    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), options});
+    auto const taken = [&](SourceValues* source, std::size_t slot) {
+        return slot < layout.options() && !m_app.m_options[slot]->positional() && winner(slot) == source;
+    };
+    std::vector<std::size_t> place(options + 1);
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        for (std::uint32_t const slot : source->slots) {
+            if (taken(source, slot)) {
+                ++place[slot + 1];
+            }
         }
     }
-    for (FileOption const& file : m_app.m_files) {
-        auto const found = m_line.find(file.names.front());
-        out.m_counts.push_back(CountedOption{std::make_shared<std::vector<std::string> const>(file.names),
-                                             found == m_line.end() ? 0 : found->second.count});
+    std::size_t const base = out.m_entries.size();
+    out.m_counts.reserve(out.m_counts.size() + options + m_app.m_files.size());
+    commits.reserve(commits.size() + options);
+    for (std::size_t i = 0; i < options; ++i) {
+        place[i + 1] += place[i];
+        SourceValues const* source = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
+        out.m_counts.push_back(m_app.m_options[i]->positional() ? m_positionalCounts[i]
+                                                                : (source == nullptr ? 0 : source->counts[i]));
+        if (place[i + 1] != place[i]) {
+            commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
+        }
+    }
+    out.m_entries.resize(base + place[options], Entry{});
+    for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
+        for (std::size_t k = 0; k < source->entries.size(); ++k) {
+            std::size_t const slot = source->slots[k];
+            if (taken(source, slot)) {
+                out.m_entries[base + place[slot]++] = std::move(source->entries[k]);
+            }
+        }
+    }
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        out.m_counts.push_back(m_line.counts[layout.file(j)]);
     }
 }
 
@@ -218,8 +250,9 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     if (!m_app.m_commands.empty()) {
         return true;
     }
-    OptionValues const* collected = winner(CoreSession::collector());
-    std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : collected->entries;
+    std::size_t const collector = m_session.layout().collector();
+    SourceValues const* collected = winner(collector);
+    std::vector<Entry> plain = collected == nullptr ? std::vector<Entry>() : entriesOf(*collected, collector);
     std::size_t const beforeTerminator = plain.size();
     // The library numbers each argument after "--" in turn once the others are
     // parsed but does not hand the numbers out: these follow the last value's.
@@ -228,26 +261,26 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         plain.push_back(Entry{std::string(), text, ++sequence, Source::CommandLine});
     }
     std::size_t next = 0;
-    for (auto const& option : m_app.m_options) {
-        if (!option->positional()) {
+    for (std::size_t index = 0; index < m_app.m_options.size(); ++index) {
+        OptionState& option = *m_app.m_options[index];
+        if (!option.positional()) {
             continue;
         }
         std::size_t const take =
-            option->binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
-        std::vector<std::string> texts;
+            option.binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
+        std::size_t const first = out.m_entries.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
             Entry entry = plain[next];
-            std::string const reason = checkPositional(*option, entry.text);
+            std::string const reason = checkPositional(option, entry.text);
             if (!reason.empty()) {
                 return fail(out, reason);
             }
-            entry.name = option->name();
-            out.m_entries.push_back(entry);
-            texts.push_back(entry.text);
+            entry.name = option.name();
+            out.m_entries.push_back(std::move(entry));
         }
-        m_positionalCounts[option->name()] = texts.size();
-        if (!texts.empty()) {
-            commits.push_back(Commit{&option->binding(), texts});
+        m_positionalCounts[index] = take;
+        if (take != 0) {
+            commits.push_back(Commit{&option.binding(), first, take});
         }
     }
     if (next < beforeTerminator) {
@@ -259,7 +292,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
     return true;
 }
 
-bool LevelParse::checkRelations(ResultData& out) const {
+bool LevelParse::checkRelations(ResultData& out) {
     for (auto const& option : m_app.m_options) {
         bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
         if (!option->m_required && !relates) {
@@ -300,12 +333,11 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     if (m_app.m_commands.empty()) {
         return true;
     }
-    auto const found = m_line.find(CoreSession::collector());
-    if (found == m_line.end() || found->second.entries.empty()) {
+    std::vector<Entry> const plain = entriesOf(m_line, m_session.layout().collector());
+    if (plain.empty()) {
         out.m_rest.insert(out.m_rest.end(), m_rest.begin(), m_rest.end());
         return true;
     }
-    std::vector<Entry> const& plain = found->second.entries;
     std::vector<std::string> names;
     for (auto const& command : m_app.m_commands) {
         names.push_back(AppState::of(*command).m_name);
@@ -318,20 +350,22 @@ bool LevelParse::descend(ResultData& out, std::vector<Commit>& commits) {
     if (matches.size() != 1) {
         return fail(out, text::ambiguousCommand(plain.front().text, matches));
     }
-    std::vector<std::string> args;
+    Arguments args;
     for (auto entry = plain.begin() + 1; entry != plain.end(); ++entry) {
-        args.push_back(entry->text);
+        args.push_back(entry->text.c_str());
     }
     if (!m_rest.empty()) {
-        args.emplace_back("--");
-        args.insert(args.end(), m_rest.begin(), m_rest.end());
+        args.push_back("--");
+        for (std::string const& text : m_rest) {
+            args.push_back(text.c_str());
+        }
     }
     out.m_command.push_back(matches.front());
     auto const index = static_cast<std::size_t>(std::find(names.begin(), names.end(), matches.front()) - names.begin());
     return LevelParse(AppState::of(*m_app.m_commands[index]), m_root).run(args, out, commits);
 }
 
-void parseProgram(AppState& app, std::vector<std::string> const& args, ResultData& out) {
+void parseProgram(AppState& app, Arguments const& args, ResultData& out) {
     std::string const mistake = app.mistake();
     if (!mistake.empty()) {
         out.m_done = true;
@@ -342,11 +376,15 @@ void parseProgram(AppState& app, std::vector<std::string> const& args, ResultDat
     std::vector<Commit> commits;
     if (LevelParse(app, app).run(args, out, commits)) {
         for (Commit const& commit : commits) {
-            commit.binding->assign(commit.texts);
+            Entry const* const first = out.m_entries.data() + commit.first;
+            commit.binding->assign(first, first + commit.count);
         }
     }
-    std::stable_sort(out.m_entries.begin(), out.m_entries.end(),
-                     [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; });
+    auto const bySequence = [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; };
+    // Options given in the order they were declared leave nothing to sort.
+    if (!std::is_sorted(out.m_entries.begin(), out.m_entries.end(), bySequence)) {
+        std::stable_sort(out.m_entries.begin(), out.m_entries.end(), bySequence);
+    }
 }
 
 }  // namespace quen_3_1::app_detail

@@ -4,7 +4,6 @@
 #ifndef QUEN_3_1_SRC_APP_LEVEL_PARSE_H
 #define QUEN_3_1_SRC_APP_LEVEL_PARSE_H
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,10 +15,12 @@
 
 namespace quen_3_1::app_detail {
 
-// Values for one variable, stored only when the whole parse succeeded.
+// Values for one variable, stored only when the whole parse succeeded: the
+// result's entries [first, first + count), before they are put in order.
 struct Commit {
     Binding* binding;
-    std::vector<std::string> texts;
+    std::size_t first;
+    std::size_t count;
 };
 
 class LevelParse {
@@ -28,7 +29,7 @@ public:
     LevelParse(AppState& app, AppState const& root);
 
     // False when parsing stops at this level: help, version, completion or an error, in `out`.
-    bool run(std::vector<std::string> const& args, ResultData& out, std::vector<Commit>& commits);
+    bool run(Arguments const& args, ResultData& out, std::vector<Commit>& commits);
 
 private:
     bool stopAtBuiltin(ResultData& out);
@@ -40,11 +41,12 @@ private:
     bool readEnvironment(ResultData& out);
     bool readVariable(OptionState const& option, std::string const& variable, ResultData& out);
     std::string variableOf(OptionState const& option) const;
-    OptionValues const* winner(std::string const& name) const;
-    bool given(std::string const& name) const;
+    // The values of the option at `slot` from the source that wins, or null when no source gave it.
+    SourceValues* winner(std::size_t slot);
+    bool given(std::string const& name);
     void takeNamed(ResultData& out, std::vector<Commit>& commits);
     bool fillPositionals(ResultData& out, std::vector<Commit>& commits);
-    bool checkRelations(ResultData& out) const;
+    bool checkRelations(ResultData& out);
     bool descend(ResultData& out, std::vector<Commit>& commits);
 
     AppState& m_app;
@@ -56,11 +58,12 @@ private:
     std::vector<std::string> m_rest;
     // The last number of the command line's values, before what follows "--".
     std::int32_t m_lineEnd = 0;
-    std::map<std::string, std::size_t> m_positionalCounts;
+    // By option index; only positionals' are set.
+    std::vector<std::size_t> m_positionalCounts;
 };
 
 // The whole parse of a program: declaration mistakes first, then every level.
-void parseProgram(AppState& app, std::vector<std::string> const& args, ResultData& out);
+void parseProgram(AppState& app, Arguments const& args, ResultData& out);
 
 }  // namespace quen_3_1::app_detail
 

@@ -1,44 +1,50 @@
 #include "app/name_list.h"
 
+#include <string_view>
+
 namespace quen_3_1::app_detail {
 
 namespace {
 
-bool isGoodName(std::string const& name) {
-    return !name.empty() && name[0] != '-' && name.find_first_of("=, \t\r\n\v\f") == std::string::npos;
+std::size_t const kMostNames = 3;
+
+// No empty name, no leading '-', no '=', ',' or blank anywhere.
+bool isGoodName(std::string_view name) {
+    if (name.empty() || name[0] == '-') {
+        return false;
+    }
+    for (char const c : name) {
+        if (c == '=' || c == ',' || c == ' ' || (c >= '\t' && c <= '\r')) {
+            return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace
 
 std::vector<std::string> splitNameList(std::string const& text) {
     std::vector<std::string> names;
-    std::size_t start = 0;
+    std::string_view rest = text;
     while (true) {
-        std::size_t const comma = text.find(',', start);
-        names.push_back(text.substr(start, comma == std::string::npos ? std::string::npos : comma - start));
-        if (!isGoodName(names.back())) {
+        std::size_t const comma = rest.find(',');
+        std::string_view const name = rest.substr(0, comma);
+        if (!isGoodName(name) || names.size() == kMostNames) {
             return {};
         }
-        if (comma == std::string::npos) {
+        if (names.empty()) {
+            names.reserve(comma == std::string_view::npos ? 1 : kMostNames);
+        }
+        names.emplace_back(name);
+        if (comma == std::string_view::npos) {
             break;
         }
-        start = comma + 1;
+        rest.remove_prefix(comma + 1);
     }
-    if (names.size() > 3 || (names.size() == 3 && names[2].size() > 2)) {
+    if (names.size() == kMostNames && names[2].size() > 2) {
         return {};
     }
     return names;
-}
-
-std::vector<std::string> occupiedNames(std::vector<std::string> const& names, bool flag) {
-    std::vector<std::string> occupied;
-    for (std::string const& name : names) {
-        occupied.push_back(name);
-        if (flag) {
-            occupied.push_back("no-" + name);
-        }
-    }
-    return occupied;
 }
 
 }  // namespace quen_3_1::app_detail

@@ -12,8 +12,8 @@ namespace quen_3_1::app_detail {
 // a leading '-', '=' or a blank, more than three names, a long third name).
 std::vector<std::string> splitNameList(std::string const& text);
 
-// The names that the list takes in the library's lookup: a flag also answers to no-NAME.
-std::vector<std::string> occupiedNames(std::vector<std::string> const& names, bool flag);
+// In the library's lookup a flag also answers to its name after this prefix.
+constexpr char kNegation[] = "no-";
 
 }  // namespace quen_3_1::app_detail
 

@@ -1,18 +1,18 @@
 // Option<T>: the host's handle on one declaration, refining its binding.
 #include <utility>
 
+#include "app/bound_option.h"
 #include "app/instance_types.h"
-#include "app/option_state.h"
-#include "app/typed_binding.h"
 #include "quen_3_1/app.h"
 
 namespace quen_3_1 {
 
 namespace {
 
+// Every declaration an Option<T> refers to was made for T.
 template <class T>
 app_detail::TypedBinding<T>& typed(app_detail::OptionState* state) {
-    return static_cast<app_detail::TypedBinding<T>&>(state->binding());
+    return static_cast<app_detail::BoundOption<T>*>(state)->typed();
 }
 
 }  // namespace

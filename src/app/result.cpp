@@ -1,8 +1,8 @@
 // Result: read-only access to the snapshot that App::parse made.
-#include <algorithm>
 #include <iostream>
 #include <utility>
 
+#include "app/name_id.h"
 #include "app/result_data.h"
 #include "quen_3_1/app.h"
 
@@ -10,13 +10,23 @@ namespace quen_3_1 {
 
 namespace {
 
-app_detail::CountedOption const* counted(app_detail::ResultData const& data, std::string const& name) {
-    for (app_detail::CountedOption const& option : data.m_counts) {
-        if (std::find(option.names->begin(), option.names->end(), name) != option.names->end()) {
-            return &option;
-        }
+using app_detail::CountedLevel;
+using app_detail::NameTable;
+
+std::size_t const kNotCounted = static_cast<std::size_t>(-1);
+
+// Where `id` of `level` is counted, or kNotCounted (no option there, or a flag's no- form).
+std::size_t countIndex(CountedLevel const& level, std::uint32_t id) {
+    if (id == NameTable::kNone) {
+        return kNotCounted;
     }
-    return nullptr;
+    if (app_detail::name_id::isOption(id)) {
+        return level.first + id;
+    }
+    if (app_detail::name_id::isFile(id)) {
+        return level.first + level.options + (id & app_detail::name_id::kIndex);
+    }
+    return kNotCounted;
 }
 
 }  // namespace
@@ -39,11 +49,13 @@ std::vector<std::string> const& Result::command() const { return m_data->m_comma
 
 bool Result::given(std::string const& name) const { return count(name) > 0; }
 
+// Summed over the levels: a command may declare a name its parent has.
 std::size_t Result::count(std::string const& name) const {
     std::size_t total = 0;
-    for (app_detail::CountedOption const& option : m_data->m_counts) {
-        if (std::find(option.names->begin(), option.names->end(), name) != option.names->end()) {
-            total += option.count;
+    for (CountedLevel const& level : m_data->m_levels) {
+        std::size_t const index = countIndex(level, level.names->find(name));
+        if (index != kNotCounted) {
+            total += m_data->m_counts[index];
         }
     }
     return total;
@@ -53,16 +65,21 @@ std::vector<std::string> const& Result::rest() const { return m_data->m_rest; }
 
 std::vector<Entry> const& Result::entries() const { return m_data->m_entries; }
 
+// The first level that has the name says which option it is; every entry under one of
+// that option's names belongs to it.
 std::vector<Entry> Result::entries(std::string const& name) const {
-    app_detail::CountedOption const* option = counted(*m_data, name);
     std::vector<Entry> found;
-    if (option == nullptr) {
-        return found;
-    }
-    for (Entry const& entry : m_data->m_entries) {
-        if (std::find(option->names->begin(), option->names->end(), entry.name) != option->names->end()) {
-            found.push_back(entry);
+    for (CountedLevel const& level : m_data->m_levels) {
+        std::uint32_t const id = level.names->find(name);
+        if (countIndex(level, id) == kNotCounted) {
+            continue;
         }
+        for (Entry const& entry : m_data->m_entries) {
+            if (level.names->find(entry.name) == id) {
+                found.push_back(entry);
+            }
+        }
+        break;
     }
     return found;
 }

@@ -6,14 +6,18 @@
 #include <string>
 #include <vector>
 
+#include "app/name_table.h"
 #include "quen_3_1/app.h"
 
 namespace quen_3_1::app_detail {
 
-struct CountedOption {
-    // Shared with the declaration, which never changes them.
-    std::shared_ptr<std::vector<std::string> const> names;
-    std::size_t count;
+// The counts of one parsed App level: m_counts[first + i] for its option i
+// (name_id.h), m_counts[first + options + j] for its options-file option j.
+struct CountedLevel {
+    // Shared with the App, which copies it before it changes.
+    std::shared_ptr<NameTable const> names;
+    std::size_t first;
+    std::size_t options;
 };
 
 class ResultData {
@@ -25,7 +29,8 @@ public:
     std::vector<std::string> m_command;
     std::vector<std::string> m_rest;
     std::vector<Entry> m_entries;
-    std::vector<CountedOption> m_counts;
+    std::vector<CountedLevel> m_levels;
+    std::vector<std::size_t> m_counts;
 };
 
 // Exit code of a declaration mistake: an internal software error.

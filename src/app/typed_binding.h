@@ -92,17 +92,17 @@ public:
         return {};
     }
 
-    void assign(std::vector<std::string> const& texts) override {
-        if (texts.empty()) {
+    void assign(Entry const* first, Entry const* last) override {
+        if (first == last) {
             return;
         }
         if constexpr (isVector) {
             m_target.clear();
-            for (std::string const& text : texts) {
-                m_target.push_back(read(text));
+            for (; first != last; ++first) {
+                m_target.push_back(read(first->text));
             }
         } else {
-            m_target = read(texts.back());
+            m_target = read((last - 1)->text);
         }
     }
 

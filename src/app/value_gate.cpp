@@ -5,16 +5,31 @@
 
 namespace quen_3_1::app_detail {
 
-ValueGate::ValueGate(std::string collector) : m_collector(std::move(collector)) {}
+ValueGate::ValueGate(AppState const& app, SlotLayout const& layout) : m_app(app), m_layout(layout) {}
 
-void ValueGate::watch(OptionState const& option) { m_watched[option.name()] = &option; }
-
-void ValueGate::begin(Source source, SourceValues& into) {
+void ValueGate::begin(Source source, SourceValues& into, std::size_t arguments) {
     m_source = source;
     m_into = &into;
+    if (into.counts.size() < m_layout.size()) {
+        into.counts.resize(m_layout.size());
+    }
+    // Only the first time: a source parsed again (file after file) grows as vectors do.
+    if (into.entries.empty()) {
+        into.entries.reserve(arguments);
+        into.slots.reserve(arguments);
+    }
     m_refusal.clear();
     m_unknown.clear();
     m_emptyArgument = false;
+}
+
+// A value event follows the event of its option: the name is looked up once.
+std::size_t ValueGate::slotOf(char const* name) {
+    if (m_lastSlot < m_layout.options() && m_app.m_options[m_lastSlot]->name() == name) {
+        return m_lastSlot;
+    }
+    m_lastSlot = m_layout.of(name);
+    return m_lastSlot;
 }
 
 void ValueGate::startAfter(std::int32_t sequence) { m_lastSequence = std::max(m_lastSequence, sequence); }
@@ -23,13 +38,18 @@ bool ValueGate::onOptionParse(char const* name) {
     if (m_into == nullptr) {
         return true;
     }
-    OptionValues& values = (*m_into)[name];
-    ++values.count;
+    std::size_t const slot = slotOf(name);
+    // A name the App does not know (cut short at a NUL by the library) is not recorded.
+    if (slot == m_layout.size()) {
+        m_emptyArgument = false;
+        return true;
+    }
+    ++m_into->counts[slot];
     // A plain argument may be empty: it then comes without a value event. Its
     // occurrence took the next number after the last value, which no event tells.
-    m_emptyArgument = name == m_collector;
+    m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
-        values.entries.push_back(Entry{name, std::string(), ++m_lastSequence, m_source});
+        record(slot, Entry{name, std::string(), ++m_lastSequence, m_source});
     }
     return true;
 }
@@ -38,24 +58,33 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
     if (m_into == nullptr) {
         return true;
     }
-    std::string const text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
-    auto const watched = m_watched.find(name);
-    if (watched != m_watched.end()) {
-        m_refusal = watched->second->binding().check(name, text);
+    std::size_t const slot = slotOf(name);
+    if (slot == m_layout.size()) {
+        m_lastSequence = value.m_index;
+        return true;
+    }
+    std::string text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
+    if (slot < m_layout.options()) {
+        m_refusal = m_app.m_options[slot]->binding().check(name, text);
         if (!m_refusal.empty()) {
             return false;
         }
     }
     m_lastSequence = value.m_index;
-    OptionValues& values = (*m_into)[name];
-    if (m_emptyArgument && !values.entries.empty()) {
-        values.entries.back().text = text;
-        values.entries.back().sequence = value.m_index;
+    Entry* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;
+    if (last != nullptr) {
+        last->text = std::move(text);
+        last->sequence = value.m_index;
         m_emptyArgument = false;
         return true;
     }
-    values.entries.push_back(Entry{name, text, value.m_index, m_source});
+    record(slot, Entry{name, std::move(text), value.m_index, m_source});
     return true;
+}
+
+void ValueGate::record(std::size_t slot, Entry entry) {
+    m_into->entries.push_back(std::move(entry));
+    m_into->slots.push_back(static_cast<std::uint32_t>(slot));
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {

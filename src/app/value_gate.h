@@ -4,10 +4,10 @@
 #ifndef QUEN_3_1_SRC_APP_VALUE_GATE_H
 #define QUEN_3_1_SRC_APP_VALUE_GATE_H
 
-#include <map>
 #include <string>
 
-#include "app/option_state.h"
+#include "app/app_state.h"
+#include "app/slot_layout.h"
 #include "app/source_values.h"
 #include "quen_3_1/app.h"
 
@@ -15,12 +15,12 @@ namespace quen_3_1::app_detail {
 
 class ValueGate final : public EventHandler {
 public:
-    // `collector` is the first name of the option that takes plain arguments.
-    explicit ValueGate(std::string collector);
+    // Values of `app`'s options are checked by their bindings and recorded at their `layout` slots.
+    ValueGate(AppState const& app, SlotLayout const& layout);
 
-    void watch(OptionState const& option);
-    // Records what follows into `into`, as coming from `source`.
-    void begin(Source source, SourceValues& into);
+    // Records what follows into `into`, as coming from `source`; `arguments` is how many
+    // arguments follow, about as many as the values they give.
+    void begin(Source source, SourceValues& into, std::size_t arguments);
     // Numbers of what follows are greater than `sequence` (what an earlier parse recorded).
     void startAfter(std::int32_t sequence);
 
@@ -36,14 +36,18 @@ public:
     std::int32_t lastSequence() const { return m_lastSequence; }
 
 private:
-    std::string m_collector;
-    std::map<std::string, OptionState const*> m_watched;
+    std::size_t slotOf(char const* name);
+    void record(std::size_t slot, Entry entry);
+
+    AppState const& m_app;
+    SlotLayout const& m_layout;
     Source m_source = Source::CommandLine;
     SourceValues* m_into = nullptr;
     std::string m_refusal;
     std::string m_unknown;
     bool m_emptyArgument = false;
     std::int32_t m_lastSequence = 0;
+    std::size_t m_lastSlot = static_cast<std::size_t>(-1);
 };
 
 }  // namespace quen_3_1::app_detail

@@ -173,3 +173,103 @@ TEST(ResultEntries, EmptyPlainArgumentHasANumberOfItsOwn) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(ResultLookup, EveryNameOfAnOptionCountsItsOccurrences) {
+    quen_3_1::App app("prog");
+    std::vector<int> jobs;
+    app.option("jobs,j", jobs, "How many.");
+    quen_3_1::Result const result = parseLine(app, {"-j", "2", "--jobs=3"});
+    ASSERT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(result.count("jobs"), 2U);
+    EXPECT_EQ(result.count("j"), 2U);
+    std::vector<std::string> texts;
+    for (quen_3_1::Entry const& entry : result.entries("j")) {
+        EXPECT_EQ(entry.name, "jobs");
+        texts.push_back(entry.text);
+    }
+    EXPECT_EQ(texts, (std::vector<std::string>{"2", "3"}));
+}
+
+TEST(ResultLookup, NegatedFlagNameIsNotAnOptionName) {
+    quen_3_1::App app("prog");
+    bool color = true;
+    app.option("color", color, "Paint.");
+    quen_3_1::Result const result = parseLine(app, {"--no-color"});
+    ASSERT_EQ(result.exitCode(), 0);
+    EXPECT_FALSE(color);
+    EXPECT_EQ(result.count("color"), 1U);
+    EXPECT_FALSE(result.given("no-color"));
+    EXPECT_TRUE(result.entries("no-color").empty());
+    EXPECT_FALSE(result.given("paint"));
+}
+
+TEST(ResultLookup, ResultKeepsTheNamesOfItsParseWhenTheAppGrows) {
+    quen_3_1::App app("prog");
+    int first = 0;
+    int second = 0;
+    app.option("first", first, "One.");
+    quen_3_1::Result const before = parseLine(app, {"--first=1"});
+    app.option("second", second, "Two.");
+    quen_3_1::Result const after = parseLine(app, {"--second=2"});
+    EXPECT_TRUE(before.given("first"));
+    EXPECT_FALSE(before.given("second"));
+    EXPECT_TRUE(before.entries("second").empty());
+    EXPECT_FALSE(after.given("first"));
+    EXPECT_TRUE(after.given("second"));
+    EXPECT_EQ(after.entries("second").size(), 1U);
+}
+
+TEST(ResultLookup, ResultOutlivesItsApp) {
+    std::string name;
+    quen_3_1::Result result = [&name] {
+        quen_3_1::App app("prog");
+        app.option("name,n", name, "Who.");
+        return parseLine(app, {"-n", "ada"});
+    }();
+    EXPECT_EQ(name, "ada");
+    EXPECT_EQ(result.count("n"), 1U);
+    ASSERT_EQ(result.entries("name").size(), 1U);
+    EXPECT_EQ(result.entries("name")[0].text, "ada");
+}
+
+TEST(ResultLookup, CommandAndProgramSharingANameCountTogether) {
+    quen_3_1::App app("prog");
+    bool verbose = false;
+    bool loud = false;
+    app.option("verbose,v", verbose, "Say more.");
+    app.command("run", "Run it.").option("verbose", loud, "Say more while running.");
+    quen_3_1::Result const result = parseLine(app, {"-v", "run", "--verbose"});
+    ASSERT_EQ(result.exitCode(), 0);
+    EXPECT_TRUE(verbose);
+    EXPECT_TRUE(loud);
+    EXPECT_EQ(result.count("verbose"), 2U);
+    EXPECT_EQ(result.count("v"), 1U);
+    EXPECT_EQ(result.entries("v").size(), 2U);
+}
+
+TEST(ResultLookup, ManyOptionsEachFoundByEveryName) {
+    quen_3_1::App app("prog");
+    std::size_t const count = 300;
+    std::vector<int> values(count);
+    std::vector<std::string> line;
+    for (std::size_t i = 0; i < count; ++i) {
+        std::string const name = "option-" + std::to_string(i);
+        app.option(name + ",alias-" + std::to_string(i), values[i], "One of many.");
+        if (i % 3 == 0) {
+            line.push_back("--alias-" + std::to_string(i) + "=" + std::to_string(i));
+        }
+    }
+    quen_3_1::Result const result = parseLine(app, line);
+    ASSERT_EQ(result.exitCode(), 0) << result.message();
+    for (std::size_t i = 0; i < count; ++i) {
+        std::size_t const expected = i % 3 == 0 ? 1 : 0;
+        EXPECT_EQ(result.count("option-" + std::to_string(i)), expected) << i;
+        EXPECT_EQ(result.count("alias-" + std::to_string(i)), expected) << i;
+        EXPECT_EQ(values[i], i % 3 == 0 ? static_cast<int>(i) : 0) << i;
+    }
+    EXPECT_FALSE(result.given("option-" + std::to_string(count)));
+}
+
+}  // namespace

@@ -1,0 +1,65 @@
+#include "app/name_table.h"
+
+namespace quen_3_1::app_detail {
+
+namespace {
+
+// Small enough for the allocator's quick bins, large enough for a few dozen names.
+std::size_t const kFirstCapacity = 64;
+std::size_t const kFirstText = 256;
+
+// FNV-1a: names are short, so a simple hash beats a strong one here.
+std::size_t hashOf(std::string_view name) {
+    std::uint64_t hash = 14695981039346656037ULL;
+    for (char const c : name) {
+        hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ULL;
+    }
+    return static_cast<std::size_t>(hash);
+}
+
+}  // namespace
+
+std::uint32_t NameTable::find(std::string_view name) const {
+    return m_slots.empty() ? kNone : m_slots[slotOf(name)].id;
+}
+
+std::uint32_t NameTable::insert(std::string_view name, std::uint32_t id) {
+    // At most half full, so that a probe ends soon at an empty slot.
+    if (2 * (m_used + 1) > m_slots.size()) {
+        grow();
+    }
+    Slot& slot = m_slots[slotOf(name)];
+    if (slot.id != kNone) {
+        return slot.id;
+    }
+    slot = Slot{id, static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(name.size())};
+    m_text.append(name);
+    ++m_used;
+    return kNone;
+}
+
+void NameTable::update(std::string_view name, std::uint32_t id) { m_slots[slotOf(name)].id = id; }
+
+std::size_t NameTable::slotOf(std::string_view name) const {
+    std::size_t const mask = m_slots.size() - 1;
+    std::size_t i = hashOf(name) & mask;
+    while (m_slots[i].id != kNone && nameOf(m_slots[i]) != name) {
+        i = (i + 1) & mask;
+    }
+    return i;
+}
+
+void NameTable::grow() {
+    std::vector<Slot> old(m_slots.empty() ? kFirstCapacity : 2 * m_slots.size());
+    old.swap(m_slots);
+    if (old.empty()) {
+        m_text.reserve(kFirstText);
+    }
+    for (Slot const& slot : old) {
+        if (slot.id != kNone) {
+            m_slots[slotOf(nameOf(slot))] = slot;
+        }
+    }
+}
+
+}  // namespace quen_3_1::app_detail
