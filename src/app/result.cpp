@@ -1,5 +1,5 @@
 // Result: read-only access to the snapshot that App::parse made.
-#include <iostream>
+#include <cstdio>
 #include <utility>
 
 #include "app/name_id.h"
@@ -39,9 +39,13 @@ int Result::exitCode() const { return m_data->m_exitCode; }
 
 std::string const& Result::message() const { return m_data->m_message; }
 
+// Written through C's stdio, which the standard streams stay in step with
+// unless a host turns that off: no file of the library includes <iostream>,
+// whose initialiser would run at every load of the library.
 int Result::exit() const {
-    std::ostream& stream = m_data->m_toStandardOutput ? std::cout : std::cerr;
-    stream << m_data->m_message << std::flush;
+    std::FILE* const stream = m_data->m_toStandardOutput ? stdout : stderr;
+    std::fwrite(m_data->m_message.data(), 1, m_data->m_message.size(), stream);
+    std::fflush(stream);
     return m_data->m_exitCode;
 }
 
