@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <string_view>
 #include <utility>
 
 #include "line_claims.h"
@@ -24,14 +27,26 @@ KindName const kKinds[] = {
     {"string", tarvo2::vt_str},  {"none", tarvo2::vt_empty},
 };
 
-std::string trim(std::string const& text) {
-    std::string::size_type first = text.find_first_not_of(" \t");
-    if (first == std::string::npos) {
+std::string trim(std::string_view text) {
+    std::size_t const first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) {
         return std::string();
     }
-    std::string::size_type last = text.find_last_not_of(" \t");
-    return text.substr(first, last - first + 1);
+    std::size_t const last = text.find_last_not_of(" \t");
+    return std::string(text.substr(first, last - first + 1));
 }
+
+// The whole of `in`; false after a read error.
+bool readAll(std::istream& in, std::string& text) {
+    char buffer[1 << 16];
+    while (in.read(buffer, sizeof buffer) || in.gcount() > 0) {
+        text.append(buffer, static_cast<std::size_t>(in.gcount()));
+    }
+    return !in.bad();
+}
+
+// Options whose claims are checked together (see RunClaims).
+std::ptrdiff_t const kRunLength = 16;
 
 std::vector<std::string> splitAt(std::string const& text, char separator) {
     std::vector<std::string> pieces;
@@ -192,6 +207,12 @@ bool convertValue(TableOption const& option, std::string const& text, tarvo2::va
     }
 }
 
+// Sets `error` to "FILE:LINE: field 'F': what is wrong"; returns false.
+bool lineError(std::string const& source, int line, char const* field, std::string const& why, std::string& error) {
+    error = source + ":" + std::to_string(line) + ": field '" + field + "': " + why;
+    return false;
+}
+
 // Everything the checks of later lines need to know about earlier ones.
 struct TableState {
     LineClaims names;      // command-line names (with "no-" forms of booleans)
@@ -223,18 +244,22 @@ public:
         }
         fields.resize(5);
         if (!readNames(fields[0], option, error) || !readKind(fields[1], option, error) ||
-            !readAttributes(fields[3], option, error) || !claimNames(option, error)) {
+            !readAttributes(fields[3], option, error)) {
             return false;
         }
         option.group = fields[2];
         option.description = fields[4];
+        // An error in the claims of this line, checked later, still comes
+        // before any error of a later line that this would change.
+        if (option.positional) {
+            m_state.positionalLine = m_line;
+        }
         return true;
     }
 
 private:
     bool fail(char const* field, std::string const& why, std::string& error) const {
-        error = m_source + ":" + std::to_string(m_line) + ": field '" + field + "': " + why;
-        return false;
+        return lineError(m_source, m_line, field, why, error);
     }
 
     bool readKind(std::string const& text, TableOption& option, std::string& error) const {
@@ -371,64 +396,138 @@ private:
         return true;
     }
 
-    // Refuses a name that an earlier option answers to, counting the "no-"
-    // forms of booleans both ways, and a variable that an earlier option uses.
-    bool claimNames(TableOption const& option, std::string& error) {
-        struct Claim {
-            std::string name;
-            char const* field;
-            std::string const* negationOf;  // the name a "no-" form negates, or null
-            // How messages name it; built only for a message.
-            std::string shown() const {
-                std::string text = "name '" + name + "'";
-                return negationOf == nullptr ? text : text + " (the negation of '" + *negationOf + "')";
+    std::string const& m_source;
+    int m_line;
+    std::string const& m_prefix;
+    TableState& m_state;
+};
+
+// Refuses a name that an earlier option answers to, counting the "no-" forms
+// of booleans both ways, and a variable that an earlier option uses; records
+// them otherwise. Options are checked in runs: the hashes of a whole run are
+// computed and their slots fetched first, as in a large table every lookup
+// would otherwise wait for memory on its own.
+class RunClaims {
+public:
+    RunClaims(std::string const& source, TableState& state) : m_source(source), m_state(state) {}
+
+    // Checks and records the options in [first, last), in order.
+    bool check(std::deque<TableOption>::const_iterator first, std::deque<TableOption>::const_iterator last,
+               std::string& error) {
+        m_used = 0;
+        m_ends.clear();
+        for (auto option = first; option != last; ++option) {
+            gather(*option);
+        }
+        std::size_t begin = 0;
+        for (auto option = first; option != last; ++option) {
+            std::size_t const end = m_ends[static_cast<std::size_t>(option - first)];
+            if (!checkOne(*option, begin, end, error)) {
+                return false;
             }
-        };
-        std::vector<Claim> claims;
+            begin = end;
+        }
+        return true;
+    }
+
+private:
+    struct Claim {
+        std::string text;
+        char const* field = nullptr;              // null for a variable
+        std::string const* negationOf = nullptr;  // the name a "no-" form negates, or null
+        std::uint64_t hash = 0;
+        // How messages name a name; built only for a message.
+        std::string shown() const {
+            std::string name = "name '" + text + "'";
+            return negationOf == nullptr ? name : name + " (the negation of '" + *negationOf + "')";
+        }
+    };
+
+    // The next claim, its text storage kept from earlier runs.
+    Claim& next() {
+        if (m_used == m_claims.size()) {
+            m_claims.emplace_back();
+        }
+        return m_claims[m_used++];
+    }
+
+    void addName(std::string const& text, char const* field, std::string const* negationOf, char const* before) {
+        Claim& claim = next();
+        claim.text.assign(before);
+        claim.text += text;
+        claim.field = field;
+        claim.negationOf = negationOf;
+        claim.hash = m_state.names.hashOf(claim.text);
+        m_state.names.prefetch(claim.hash);
+    }
+
+    void addVariable(std::string const& text, char const* suffix) {
+        Claim& claim = next();
+        claim.text.assign(text);
+        claim.text += suffix;
+        claim.field = nullptr;
+        claim.negationOf = nullptr;
+        claim.hash = m_state.variables.hashOf(claim.text);
+        m_state.variables.prefetch(claim.hash);
+    }
+
+    // The option's names, then the "no-" forms of a boolean's, then its two variables.
+    void gather(TableOption const& option) {
         for (std::string const& name : option.names) {
-            claims.push_back({name, "names", nullptr});
+            addName(name, "names", nullptr, "");
         }
         for (std::string const& name : option.synonyms) {
-            claims.push_back({name, "attributes", nullptr});
+            addName(name, "attributes", nullptr, "");
         }
-        std::size_t own = claims.size();
         if (option.kind == tarvo2::vt_bool) {
-            for (std::size_t i = 0; i < own; ++i) {
-                std::string const& name =
-                    i < option.names.size() ? option.names[i] : option.synonyms[i - option.names.size()];
-                claims.push_back({"no-" + name, claims[i].field, &name});
+            for (std::string const& name : option.names) {
+                addName(name, "names", &name, "no-");
+            }
+            for (std::string const& name : option.synonyms) {
+                addName(name, "attributes", &name, "no-");
             }
         }
-        for (auto claim = claims.begin(); claim != claims.end(); ++claim) {
-            if (int const taken = m_state.names.lineOf(claim->name)) {
-                return fail(claim->field, claim->shown() + " is already taken by line " + std::to_string(taken), error);
+        addVariable(option.variable, "");
+        addVariable(option.variable, "_count");
+        m_ends.push_back(m_used);
+    }
+
+    bool checkOne(TableOption const& option, std::size_t begin, std::size_t end, std::string& error) {
+        std::size_t const variables = end - 2;
+        for (std::size_t at = begin; at < variables; ++at) {
+            Claim const& claim = m_claims[at];
+            if (int const taken = m_state.names.lineOf(claim.text, claim.hash)) {
+                return lineError(m_source, option.line, claim.field,
+                                 claim.shown() + " is already taken by line " + std::to_string(taken), error);
             }
-            auto same = [&](Claim const& other) { return other.name == claim->name; };
-            if (std::any_of(claims.begin(), claim, same)) {
-                return fail(claim->field, claim->shown() + " is given twice", error);
+            for (std::size_t earlier = begin; earlier < at; ++earlier) {
+                if (m_claims[earlier].text == claim.text) {
+                    return lineError(m_source, option.line, claim.field, claim.shown() + " is given twice", error);
+                }
             }
         }
-        for (std::string const& variable : {option.variable, option.variable + "_count"}) {
-            if (int const taken = m_state.variables.lineOf(variable)) {
-                return fail("names", "variable '" + variable + "' is already taken by line " + std::to_string(taken),
-                            error);
+        for (std::size_t at = variables; at < end; ++at) {
+            Claim const& claim = m_claims[at];
+            if (int const taken = m_state.variables.lineOf(claim.text, claim.hash)) {
+                return lineError(m_source, option.line, "names",
+                                 "variable '" + claim.text + "' is already taken by line " + std::to_string(taken),
+                                 error);
             }
         }
-        for (Claim const& claim : claims) {
-            m_state.names.claim(claim.name, m_line);
+        for (std::size_t at = begin; at < variables; ++at) {
+            m_state.names.claim(m_claims[at].text, m_claims[at].hash, option.line);
         }
-        m_state.variables.claim(option.variable, m_line);
-        m_state.variables.claim(option.variable + "_count", m_line);
-        if (option.positional) {
-            m_state.positionalLine = m_line;
+        for (std::size_t at = variables; at < end; ++at) {
+            m_state.variables.claim(m_claims[at].text, m_claims[at].hash, option.line);
         }
         return true;
     }
 
     std::string const& m_source;
-    int m_line;
-    std::string const& m_prefix;
     TableState& m_state;
+    std::vector<Claim> m_claims;  // the run's claims; only the first m_used are current
+    std::size_t m_used = 0;
+    std::vector<std::size_t> m_ends;  // by option of the run: the end of its claims
 };
 
 }  // namespace
@@ -475,36 +574,57 @@ TableOption const* OptionTable::positionalOption() const {
 
 bool readTable(std::istream& in, std::string const& source, std::string const& prefix, OptionTable& table,
                std::string& error) {
-    std::vector<std::string> lines;
-    for (std::string text; std::getline(in, text);) {
-        lines.push_back(std::move(text));
-    }
-    if (in.bad()) {
+    std::string text;
+    if (!readAll(in, text)) {
         error = source + ": read error";
         return false;
     }
-    // Sized once: growing them line by line costs more than the lookups.
+    // Sized for the common table (one name per line) at once: growing line by
+    // line costs more than the lookups. Every option claims two variables.
+    std::size_t const lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
     TableState state;
-    state.names.reserve(2 * lines.size());
-    state.variables.reserve(2 * lines.size());
+    state.names.reserve(lines);
+    state.variables.reserve(2 * lines);
+    RunClaims claims(source, state);
+    std::size_t unchecked = 0;  // options at the end of the table whose claims wait for their run
+    std::string readError;
+    bool read = true;
     int line = 0;
-    for (std::string& text : lines) {
+    // Lines as std::getline() gives them: no empty line after a final newline.
+    for (std::size_t start = 0; start < text.size();) {
+        std::size_t end = std::min(text.find('\n', start), text.size());
+        std::string_view current(text.data() + start, end - start);
+        start = end + 1;
         ++line;
-        if (!text.empty() && text.back() == '\r') {
-            text.pop_back();
+        if (!current.empty() && current.back() == '\r') {
+            current.remove_suffix(1);
         }
-        std::string content = trim(text);
+        std::string const content = trim(current);
         if (content.empty() || content[0] == '#') {
             continue;
         }
         TableOption option;
         LineReader reader(source, line, prefix, state);
-        if (!reader.read(content, option, error)) {
-            return false;
+        if (!reader.read(content, option, readError)) {
+            read = false;
+            break;
         }
         table.options.push_back(std::move(option));
+        if (++unchecked == static_cast<std::size_t>(kRunLength)) {
+            if (!claims.check(table.options.end() - kRunLength, table.options.end(), error)) {
+                return false;
+            }
+            unchecked = 0;
+        }
     }
-    return true;
+    // The claims of the lines before a line that cannot be read come first.
+    if (!claims.check(table.options.end() - static_cast<std::ptrdiff_t>(unchecked), table.options.end(), error)) {
+        return false;
+    }
+    if (!read) {
+        error = readError;
+    }
+    return read;
 }
 
 }  // namespace quenopt
