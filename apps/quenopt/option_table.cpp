@@ -27,14 +27,20 @@ KindName const kKinds[] = {
     {"string", tarvo2::vt_str},  {"none", tarvo2::vt_empty},
 };
 
-std::string trim(std::string_view text) {
-    std::size_t const first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return std::string();
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+// `text` without the blanks around it.
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
     }
-    std::size_t const last = text.find_last_not_of(" \t");
-    return std::string(text.substr(first, last - first + 1));
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
+
+std::string trim(std::string_view text) { return std::string(trimmed(text)); }
 
 // The whole of `in`; false after a read error.
 bool readAll(std::istream& in, std::string& text) {
@@ -225,26 +231,25 @@ public:
     LineReader(std::string const& source, int line, std::string const& prefix, TableState& state)
         : m_source(source), m_line(line), m_prefix(prefix), m_state(state) {}
 
-    bool read(std::string const& text, TableOption& option, std::string& error) {
+    bool read(std::string_view text, TableOption& option, std::string& error) {
         option.line = m_line;
         // The description is the last field and may itself hold '|'.
-        std::vector<std::string> fields;
-        std::string::size_type start = 0;
-        while (fields.size() < 4) {
-            std::string::size_type bar = text.find('|', start);
-            if (bar == std::string::npos) {
+        std::string_view fields[5];
+        std::size_t count = 0;
+        while (count < 4) {
+            std::size_t const bar = text.find('|');
+            if (bar == std::string_view::npos) {
                 break;
             }
-            fields.push_back(trim(text.substr(start, bar - start)));
-            start = bar + 1;
+            fields[count++] = trimmed(text.substr(0, bar));
+            text.remove_prefix(bar + 1);
         }
-        fields.push_back(trim(text.substr(start)));
-        if (fields.size() < 2) {
+        fields[count++] = trimmed(text);
+        if (count < 2) {
             return fail("kind", "missing; a line needs at least 'names | kind'", error);
         }
-        fields.resize(5);
-        if (!readNames(fields[0], option, error) || !readKind(fields[1], option, error) ||
-            !readAttributes(fields[3], option, error)) {
+        if (!readNames(std::string(fields[0]), option, error) || !readKind(fields[1], option, error) ||
+            !readAttributes(std::string(fields[3]), option, error)) {
             return false;
         }
         option.group = fields[2];
@@ -262,7 +267,7 @@ private:
         return lineError(m_source, m_line, field, why, error);
     }
 
-    bool readKind(std::string const& text, TableOption& option, std::string& error) const {
+    bool readKind(std::string_view text, TableOption& option, std::string& error) const {
         if (text.empty()) {
             return fail("kind", "missing", error);
         }
@@ -274,7 +279,8 @@ private:
             }
         }
         return fail("kind",
-                    "unknown kind '" + text + "'; kinds are bool, int, uint, int64, uint64, double, string and none",
+                    "unknown kind '" + std::string(text) +
+                        "'; kinds are bool, int, uint, int64, uint64, double, string and none",
                     error);
     }
 
@@ -297,8 +303,8 @@ private:
         if (names.size() == 3 && names[2].size() > 2) {
             return fail("names", "the third name '" + names[2] + "' is longer than two characters", error);
         }
-        option.names = names;
         std::string variable = names[0];
+        option.names = std::move(names);
         for (char& c : variable) {
             if (c == '-') {
                 c = '_';
@@ -599,7 +605,7 @@ bool readTable(std::istream& in, std::string const& source, std::string const& p
         if (!current.empty() && current.back() == '\r') {
             current.remove_suffix(1);
         }
-        std::string const content = trim(current);
+        std::string_view const content = trimmed(current);
         if (content.empty() || content[0] == '#') {
             continue;
         }
