@@ -42,11 +42,25 @@ std::string_view trimmed(std::string_view text) {
 
 std::string trim(std::string_view text) { return std::string(trimmed(text)); }
 
-// The whole of `in`; false after a read error.
+// The whole of `in`; false after a read error. A file's size is known
+// beforehand, and its text is read in one piece into a string of that size.
 bool readAll(std::istream& in, std::string& text) {
-    char buffer[1 << 16];
-    while (in.read(buffer, sizeof buffer) || in.gcount() > 0) {
-        text.append(buffer, static_cast<std::size_t>(in.gcount()));
+    std::streambuf& buffer = *in.rdbuf();
+    std::streamoff const start = buffer.pubseekoff(0, std::ios::cur, std::ios::in);
+    if (start >= 0) {
+        std::streamoff const end = buffer.pubseekoff(0, std::ios::end, std::ios::in);
+        if (end >= 0 && std::streamoff(buffer.pubseekpos(start, std::ios::in)) != start) {
+            return false;
+        }
+        if (end > start) {
+            text.resize(static_cast<std::size_t>(end - start));
+            in.read(&text[0], static_cast<std::streamsize>(text.size()));
+            text.resize(static_cast<std::size_t>(in.gcount()));
+        }
+    }
+    char piece[1 << 16];
+    while (in.read(piece, sizeof piece) || in.gcount() > 0) {
+        text.append(piece, static_cast<std::size_t>(in.gcount()));
     }
     return !in.bad();
 }

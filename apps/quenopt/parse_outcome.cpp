@@ -229,8 +229,12 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
             outcome.error = holder.parser->getErrorDesc();
         }
 
+        // Both sized for the whole table at once: only what is filled is
+        // touched, and the others are appended to the given without copies.
         std::vector<OptionOutcome> given;
         std::vector<OptionOutcome> others;
+        given.reserve(table.options.size());
+        others.reserve(table.options.size());
         TableOption const* positional = table.positionalOption();
         TableOption const* help = table.helpOption();
         std::vector<std::string> positionalTaken;
@@ -248,9 +252,8 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
         std::stable_sort(given.begin(), given.end(), [](OptionOutcome const& a, OptionOutcome const& b) {
             return a.occurrences.front() < b.occurrences.front();
         });
+        given.insert(given.end(), std::make_move_iterator(others.begin()), std::make_move_iterator(others.end()));
         outcome.options = std::move(given);
-        outcome.options.insert(outcome.options.end(), std::make_move_iterator(others.begin()),
-                               std::make_move_iterator(others.end()));
 
         std::vector<std::string> afterTerminator;
         char const* text = nullptr;

@@ -92,3 +92,5 @@ b | int'
 printf 'x | int\r\n\r\n# comment\r\ny | int | | default=2\r' | runq --table - -- --x=1
 printf 'x | int\ny | int | | default=2' | runq --table - -- --x=1
 printf 'x | int\nx | int' | runq --table - -- --x=1
+# A table file given as standard input reads as from the file itself.
+runq --table - -- --x <tables/malformed.table
