@@ -66,7 +66,7 @@ bool readAll(std::istream& in, std::string& text) {
 }
 
 // Options whose claims are checked together (see RunClaims).
-std::ptrdiff_t const kRunLength = 16;
+std::size_t const kRunLength = 16;
 
 std::vector<std::string> splitAt(std::string const& text, char separator) {
     std::vector<std::string> pieces;
@@ -431,18 +431,17 @@ class RunClaims {
 public:
     RunClaims(std::string const& source, TableState& state) : m_source(source), m_state(state) {}
 
-    // Checks and records the options in [first, last), in order.
-    bool check(std::deque<TableOption>::const_iterator first, std::deque<TableOption>::const_iterator last,
-               std::string& error) {
+    // Checks and records the options from `first` to the end, in order.
+    bool check(std::deque<TableOption> const& options, std::size_t first, std::string& error) {
         m_used = 0;
         m_ends.clear();
-        for (auto option = first; option != last; ++option) {
-            gather(*option);
+        for (std::size_t at = first; at < options.size(); ++at) {
+            gather(options[at]);
         }
         std::size_t begin = 0;
-        for (auto option = first; option != last; ++option) {
-            std::size_t const end = m_ends[static_cast<std::size_t>(option - first)];
-            if (!checkOne(*option, begin, end, error)) {
+        for (std::size_t at = first; at < options.size(); ++at) {
+            std::size_t const end = m_ends[at - first];
+            if (!checkOne(options[at], begin, end, error)) {
                 return false;
             }
             begin = end;
@@ -630,15 +629,15 @@ bool readTable(std::istream& in, std::string const& source, std::string const& p
             break;
         }
         table.options.push_back(std::move(option));
-        if (++unchecked == static_cast<std::size_t>(kRunLength)) {
-            if (!claims.check(table.options.end() - kRunLength, table.options.end(), error)) {
+        if (++unchecked == kRunLength) {
+            if (!claims.check(table.options, table.options.size() - kRunLength, error)) {
                 return false;
             }
             unchecked = 0;
         }
     }
     // The claims of the lines before a line that cannot be read come first.
-    if (!claims.check(table.options.end() - static_cast<std::ptrdiff_t>(unchecked), table.options.end(), error)) {
+    if (!claims.check(table.options, table.options.size() - unchecked, error)) {
         return false;
     }
     if (!read) {
