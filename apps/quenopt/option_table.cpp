@@ -40,8 +40,6 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-std::string trim(std::string_view text) { return std::string(trimmed(text)); }
-
 // The whole of `in`; false after a read error. A file's size is known
 // beforehand, and its text is read in one piece into a string of that size.
 bool readAll(std::istream& in, std::string& text) {
@@ -82,21 +80,19 @@ std::vector<std::string> splitAt(std::string const& text, char separator) {
     }
 }
 
-std::vector<std::string> splitBlanks(std::string const& text) {
-    std::vector<std::string> words;
-    std::string::size_type at = 0;
-    while (true) {
-        std::string::size_type first = text.find_first_not_of(" \t", at);
-        if (first == std::string::npos) {
-            return words;
-        }
-        std::string::size_type last = text.find_first_of(" \t", first);
-        if (last == std::string::npos) {
-            last = text.size();
-        }
-        words.push_back(text.substr(first, last - first));
-        at = last;
+// The next blank-separated word of `text` (empty at its end); `text` keeps what follows.
+std::string_view nextWord(std::string_view& text) {
+    std::size_t first = 0;
+    while (first < text.size() && isBlank(text[first])) {
+        ++first;
     }
+    std::size_t last = first;
+    while (last < text.size() && !isBlank(text[last])) {
+        ++last;
+    }
+    std::string_view const word = text.substr(first, last - first);
+    text.remove_prefix(last);
+    return word;
 }
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -107,19 +103,20 @@ bool isNameCharacter(char c) {
 
 // Names become both command-line names and parts of shell variable names, so
 // they are kept to letters, digits, '-' and '_', starting with a letter or digit.
-bool checkName(std::string const& name, std::string& why) {
+bool checkName(std::string_view name, std::string& why) {
     if (name.empty()) {
         why = "empty name";
         return false;
     }
     for (char c : name) {
         if (!isNameCharacter(c)) {
-            why = "name '" + name + "' holds '" + std::string(1, c) + "'; names use letters, digits, '-' and '_'";
+            why = "name '" + std::string(name) + "' holds '" + std::string(1, c) +
+                  "'; names use letters, digits, '-' and '_'";
             return false;
         }
     }
     if (name[0] == '-' || name[0] == '_') {
-        why = "name '" + name + "' must begin with a letter or a digit";
+        why = "name '" + std::string(name) + "' must begin with a letter or a digit";
         return false;
     }
     return true;
@@ -262,8 +259,8 @@ public:
         if (count < 2) {
             return fail("kind", "missing; a line needs at least 'names | kind'", error);
         }
-        if (!readNames(std::string(fields[0]), option, error) || !readKind(fields[1], option, error) ||
-            !readAttributes(std::string(fields[3]), option, error)) {
+        if (!readNames(fields[0], option, error) || !readKind(fields[1], option, error) ||
+            !readAttributes(fields[3], option, error)) {
             return false;
         }
         option.group = fields[2];
@@ -287,7 +284,7 @@ private:
         }
         for (KindName const& kind : kKinds) {
             if (text == kind.name) {
-                option.kindName = text;
+                option.kindName = kind.name;
                 option.kind = kind.kind;
                 return true;
             }
@@ -298,27 +295,33 @@ private:
                     error);
     }
 
-    bool readNames(std::string const& text, TableOption& option, std::string& error) const {
+    bool readNames(std::string_view text, TableOption& option, std::string& error) const {
         if (text.empty()) {
             return fail("names", "missing", error);
         }
-        std::vector<std::string> names = splitAt(text, ',');
-        if (names.size() > 3) {
+        if (std::count(text.begin(), text.end(), ',') > 2) {
             return fail("names", "more than three names", error);
         }
-        for (std::string& name : names) {
-            name = trim(name);
+        NameList names;
+        while (true) {
+            std::size_t const comma = text.find(',');
+            std::string_view const name = trimmed(text.substr(0, comma));
             std::string why;
             if (!checkName(name, why)) {
                 return fail("names", why, error);
             }
+            names.push_back(name);
+            if (comma == std::string_view::npos) {
+                break;
+            }
+            text.remove_prefix(comma + 1);
         }
         // The library keeps a third name for a short form.
         if (names.size() == 3 && names[2].size() > 2) {
-            return fail("names", "the third name '" + names[2] + "' is longer than two characters", error);
+            return fail("names", "the third name '" + std::string(names[2]) + "' is longer than two characters", error);
         }
-        std::string variable = names[0];
-        option.names = std::move(names);
+        option.names = names;
+        std::string variable(names[0]);
         for (char& c : variable) {
             if (c == '-') {
                 c = '_';
@@ -331,12 +334,13 @@ private:
         return true;
     }
 
-    bool readAttributes(std::string const& text, TableOption& option, std::string& error) {
+    bool readAttributes(std::string_view text, TableOption& option, std::string& error) {
         bool hasAllow = false;
-        for (std::string const& word : splitBlanks(text)) {
-            std::string::size_type equals = word.find('=');
-            std::string key = word.substr(0, equals);
-            std::string value = equals == std::string::npos ? std::string() : word.substr(equals + 1);
+        for (std::string_view word = nextWord(text); !word.empty(); word = nextWord(text)) {
+            std::size_t const equals = word.find('=');
+            std::string_view const key = word.substr(0, equals);
+            std::string_view const value =
+                equals == std::string_view::npos ? std::string_view() : word.substr(equals + 1);
             if (word == "positional") {
                 if (option.positional) {
                     return fail("attributes", "'positional' is given twice", error);
@@ -352,7 +356,7 @@ private:
                 }
                 option.positional = true;
             } else if (equals == std::string::npos) {
-                return fail("attributes", "unknown attribute '" + word + "'", error);
+                return fail("attributes", "unknown attribute '" + std::string(word) + "'", error);
             } else if (key == "default") {
                 if (option.hasDefault) {
                     return fail("attributes", "'default' is given twice", error);
@@ -363,8 +367,9 @@ private:
                 if (value.empty()) {
                     return fail("attributes", "empty default", error);
                 }
-                if (!convertValue(option, value, option.defaultValue)) {
-                    return fail("attributes", "default '" + value + "' is not a valid " + option.kindName, error);
+                if (!convertValue(option, std::string(value), option.defaultValue)) {
+                    return fail("attributes", "default '" + std::string(value) + "' is not a valid " + option.kindName,
+                                error);
                 }
                 option.hasDefault = true;
                 option.defaultText = value;
@@ -373,10 +378,11 @@ private:
                     return fail("attributes", "'allow' is given twice", error);
                 }
                 if (option.kind == tarvo2::vt_empty || option.kind == tarvo2::vt_bool) {
-                    return fail("attributes", "an option of kind " + option.kindName + " takes no allowed values",
+                    return fail("attributes",
+                                std::string("an option of kind ") + option.kindName + " takes no allowed values",
                                 error);
                 }
-                for (std::string const& piece : splitAt(value, ',')) {
+                for (std::string const& piece : splitAt(std::string(value), ',')) {
                     tarvo2::variant_t allowed;
                     if (piece.empty()) {
                         return fail("attributes", "empty allowed value", error);
@@ -393,14 +399,16 @@ private:
                     return fail("attributes", "'split' is given twice", error);
                 }
                 if (option.kind == tarvo2::vt_empty || option.kind == tarvo2::vt_bool) {
-                    return fail("attributes", "an option of kind " + option.kindName + " takes no split", error);
+                    return fail("attributes", std::string("an option of kind ") + option.kindName + " takes no split",
+                                error);
                 }
                 if (value == "none") {
                     option.split = 0;
                 } else if (value.size() == 1) {
                     option.split = value[0];
                 } else {
-                    return fail("attributes", "split takes one character or 'none', not '" + value + "'", error);
+                    return fail("attributes", "split takes one character or 'none', not '" + std::string(value) + "'",
+                                error);
                 }
                 option.hasSplit = true;
             } else if (key == "synonym") {
@@ -410,7 +418,7 @@ private:
                 }
                 option.synonyms.push_back(value);
             } else {
-                return fail("attributes", "unknown attribute '" + key + "'", error);
+                return fail("attributes", "unknown attribute '" + std::string(key) + "'", error);
             }
         }
         return true;
@@ -452,13 +460,13 @@ public:
 private:
     struct Claim {
         std::string text;
-        char const* field = nullptr;              // null for a variable
-        std::string const* negationOf = nullptr;  // the name a "no-" form negates, or null
+        char const* field = nullptr;                   // null for a variable
+        std::string_view const* negationOf = nullptr;  // the name a "no-" form negates, or null
         std::uint64_t hash = 0;
         // How messages name a name; built only for a message.
         std::string shown() const {
             std::string name = "name '" + text + "'";
-            return negationOf == nullptr ? name : name + " (the negation of '" + *negationOf + "')";
+            return negationOf == nullptr ? name : name + " (the negation of '" + std::string(*negationOf) + "')";
         }
     };
 
@@ -470,7 +478,7 @@ private:
         return m_claims[m_used++];
     }
 
-    void addName(std::string const& text, char const* field, std::string const* negationOf, char const* before) {
+    void addName(std::string_view text, char const* field, std::string_view const* negationOf, char const* before) {
         Claim& claim = next();
         claim.text.assign(before);
         claim.text += text;
@@ -480,7 +488,7 @@ private:
         m_state.names.prefetch(claim.hash);
     }
 
-    void addVariable(std::string const& text, char const* suffix) {
+    void addVariable(std::string_view text, char const* suffix) {
         Claim& claim = next();
         claim.text.assign(text);
         claim.text += suffix;
@@ -492,17 +500,17 @@ private:
 
     // The option's names, then the "no-" forms of a boolean's, then its two variables.
     void gather(TableOption const& option) {
-        for (std::string const& name : option.names) {
+        for (std::string_view const& name : option.names) {
             addName(name, "names", nullptr, "");
         }
-        for (std::string const& name : option.synonyms) {
+        for (std::string_view const& name : option.synonyms) {
             addName(name, "attributes", nullptr, "");
         }
         if (option.kind == tarvo2::vt_bool) {
-            for (std::string const& name : option.names) {
+            for (std::string_view const& name : option.names) {
                 addName(name, "names", &name, "no-");
             }
-            for (std::string const& name : option.synonyms) {
+            for (std::string_view const& name : option.synonyms) {
                 addName(name, "attributes", &name, "no-");
             }
         }
@@ -568,12 +576,12 @@ TableOption const* OptionTable::helpOption() const {
         if (option.kind != tarvo2::vt_empty) {
             continue;
         }
-        for (std::string const& name : option.names) {
+        for (std::string_view const& name : option.names) {
             if (name == "help") {
                 return &option;
             }
         }
-        for (std::string const& name : option.synonyms) {
+        for (std::string_view const& name : option.synonyms) {
             if (name == "help") {
                 return &option;
             }
@@ -593,7 +601,7 @@ TableOption const* OptionTable::positionalOption() const {
 
 bool readTable(std::istream& in, std::string const& source, std::string const& prefix, OptionTable& table,
                std::string& error) {
-    std::string text;
+    std::string& text = table.text;
     if (!readAll(in, text)) {
         error = source + ": read error";
         return false;

@@ -8,25 +8,44 @@
 
 #include <quen_3_1/quen.h>
 
+#include <cstddef>
 #include <deque>
 #include <istream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quenopt {
 
-// One line of the table, checked and ready to be registered.
+// The names field: up to three names, primary first.
+class NameList {
+public:
+    std::string_view const* begin() const { return m_names; }
+    std::string_view const* end() const { return m_names + m_count; }
+    std::size_t size() const { return m_count; }
+    std::string_view front() const { return m_names[0]; }
+    std::string_view operator[](std::size_t at) const { return m_names[at]; }
+    void push_back(std::string_view name) { m_names[m_count++] = name; }
+
+private:
+    std::string_view m_names[3];
+    std::size_t m_count = 0;
+};
+
+// One line of the table, checked and ready to be registered. Its texts are
+// views of the table's text, which outlives it: a large table costs no heap
+// block per option.
 struct TableOption {
     int line = 0;
-    std::vector<std::string> names;     // the names field, primary name first
-    std::vector<std::string> synonyms;  // synonym= attributes, in order
-    std::string kindName;               // as written: bool, int, ..., none
+    NameList names;
+    std::vector<std::string_view> synonyms;  // synonym= attributes, in order
+    char const* kindName = "";               // as written: bool, int, ..., none
     tarvo2::kel_variant_type_t kind = tarvo2::vt_empty;
-    std::string group;
-    std::string description;
+    std::string_view group;
+    std::string_view description;
     bool hasDefault = false;
     tarvo2::variant_t defaultValue;
-    std::string defaultText;  // as written in the table
+    std::string_view defaultText;  // as written in the table
     std::vector<tarvo2::variant_t> allowed;
     bool hasSplit = false;  // false keeps the library's own splitting at ','
     char split = ',';       // 0 after split=none
@@ -35,6 +54,12 @@ struct TableOption {
 };
 
 struct OptionTable {
+    OptionTable() = default;
+    // The options' views point into `text`: a table stays where it was read.
+    OptionTable(OptionTable const&) = delete;
+    OptionTable& operator=(OptionTable const&) = delete;
+
+    std::string text;                 // the table as read
     std::deque<TableOption> options;  // a deque: no copies of options as it grows
 
     // The option that answers --help: kind none with "help" among its names.

@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <iostream>
 #include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "fail_closed.h"
@@ -63,15 +65,28 @@ struct ParserHolder {
     }
 };
 
-void registerOption(quen_3_1::IParser& parser, TableOption const& option) {
+// The texts that the library takes with their terminating NUL, in buffers
+// kept from one option to the next.
+struct RegistrationTexts {
     std::string names;
-    for (std::string const& name : option.names) {
-        names += (names.empty() ? "" : ",") + name;
+    std::string description;
+    std::string group;
+};
+
+void registerOption(quen_3_1::IParser& parser, TableOption const& option, RegistrationTexts& texts) {
+    texts.names.clear();
+    for (std::string_view const& name : option.names) {
+        if (!texts.names.empty()) {
+            texts.names += ',';
+        }
+        texts.names += name;
     }
+    texts.description.assign(option.description);
+    texts.group.assign(option.group);
     quen_3_1::IOption* registered =
-        parser.option(names.c_str(), option.description.c_str(), option.kind, option.group.c_str());
-    for (std::string const& synonym : option.synonyms) {
-        registered->synonym(synonym.c_str());
+        parser.option(texts.names.c_str(), texts.description.c_str(), option.kind, texts.group.c_str());
+    for (std::string_view const& synonym : option.synonyms) {
+        registered->synonym(std::string(synonym).c_str());
     }
     for (tarvo2::variant_t const& allowed : option.allowed) {
         registered->allowValue(allowed);
@@ -120,7 +135,8 @@ std::string valueText(TableOption const& option, quen_3_1::Value const& value) {
 OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& option) {
     OptionOutcome outcome;
     outcome.option = &option;
-    char const* name = option.names[0].c_str();
+    std::string const primary(option.names[0]);
+    char const* name = primary.c_str();
     quen_3_1::Value first = result.get(name);
     if (first.m_status != 0) {
         return outcome;
@@ -206,8 +222,9 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
             problem = "cannot create a parser";
             return false;
         }
+        RegistrationTexts registration;
         for (TableOption const& option : table.options) {
-            registerOption(*holder.parser, option);
+            registerOption(*holder.parser, option, registration);
         }
         holder.parser->createResult(&holder.result);
 
