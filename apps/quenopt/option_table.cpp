@@ -63,6 +63,9 @@ bool readAll(std::istream& in, std::string& text) {
     return !in.bad();
 }
 
+// The shortest line that holds an option, with its newline.
+std::size_t const kShortestLine = 6;
+
 // Options whose claims are checked together (see RunClaims).
 std::size_t const kRunLength = 16;
 
@@ -440,7 +443,7 @@ public:
     RunClaims(std::string const& source, TableState& state) : m_source(source), m_state(state) {}
 
     // Checks and records the options from `first` to the end, in order.
-    bool check(std::deque<TableOption> const& options, std::size_t first, std::string& error) {
+    bool check(std::vector<TableOption> const& options, std::size_t first, std::string& error) {
         m_used = 0;
         m_ends.clear();
         for (std::size_t at = first; at < options.size(); ++at) {
@@ -609,6 +612,9 @@ bool readTable(std::istream& in, std::string const& source, std::string const& p
     // Sized for the common table (one name per line) at once: growing line by
     // line costs more than the lookups. Every option claims two variables.
     std::size_t const lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
+    // An option's line takes at least six bytes ("a|int" and its newline), so
+    // a text of blank lines reserves no more than one of options would.
+    table.options.reserve(std::min(lines, (text.size() + 1) / kShortestLine));
     TableState state;
     state.names.reserve(lines);
     state.variables.reserve(2 * lines);

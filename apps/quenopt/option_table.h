@@ -9,7 +9,6 @@
 #include <quen_3_1/quen.h>
 
 #include <cstddef>
-#include <deque>
 #include <istream>
 #include <string>
 #include <string_view>
@@ -59,8 +58,10 @@ struct OptionTable {
     OptionTable(OptionTable const&) = delete;
     OptionTable& operator=(OptionTable const&) = delete;
 
-    std::string text;                 // the table as read
-    std::deque<TableOption> options;  // a deque: no copies of options as it grows
+    std::string text;  // the table as read
+    // Reserved for every line of the text at once: no copies as it grows, and
+    // one block for all options instead of one for every few.
+    std::vector<TableOption> options;
 
     // The option that answers --help: kind none with "help" among its names.
     TableOption const* helpOption() const;
