@@ -246,12 +246,11 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
             outcome.error = holder.parser->getErrorDesc();
         }
 
-        // Both sized for the whole table at once: only what is filled is
-        // touched, and the others are appended to the given without copies.
+        // The options not given go straight to their place, in a vector sized
+        // for the whole table; the given ones (few, as a rule) are sorted apart
+        // and then moved in before them, without a second array of outcomes.
         std::vector<OptionOutcome> given;
-        std::vector<OptionOutcome> others;
-        given.reserve(table.options.size());
-        others.reserve(table.options.size());
+        outcome.options.reserve(table.options.size());
         TableOption const* positional = table.positionalOption();
         TableOption const* help = table.helpOption();
         std::vector<std::string> positionalTaken;
@@ -264,13 +263,13 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
                 outcome.help = true;
                 outcome.helpText = holder.parser->getDescription(false);
             }
-            (collected.occurrences.empty() ? others : given).push_back(std::move(collected));
+            (collected.occurrences.empty() ? outcome.options : given).push_back(std::move(collected));
         }
         std::stable_sort(given.begin(), given.end(), [](OptionOutcome const& a, OptionOutcome const& b) {
             return a.occurrences.front() < b.occurrences.front();
         });
-        given.insert(given.end(), std::make_move_iterator(others.begin()), std::make_move_iterator(others.end()));
-        outcome.options = std::move(given);
+        outcome.options.insert(outcome.options.begin(), std::make_move_iterator(given.begin()),
+                               std::make_move_iterator(given.end()));
 
         std::vector<std::string> afterTerminator;
         char const* text = nullptr;
