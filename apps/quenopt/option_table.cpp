@@ -361,7 +361,7 @@ private:
             } else if (equals == std::string::npos) {
                 return fail("attributes", "unknown attribute '" + std::string(word) + "'", error);
             } else if (key == "default") {
-                if (option.hasDefault) {
+                if (option.editExtras().hasDefault) {
                     return fail("attributes", "'default' is given twice", error);
                 }
                 if (option.kind == tarvo2::vt_empty) {
@@ -370,12 +370,12 @@ private:
                 if (value.empty()) {
                     return fail("attributes", "empty default", error);
                 }
-                if (!convertValue(option, std::string(value), option.defaultValue)) {
+                if (!convertValue(option, std::string(value), option.editExtras().defaultValue)) {
                     return fail("attributes", "default '" + std::string(value) + "' is not a valid " + option.kindName,
                                 error);
                 }
-                option.hasDefault = true;
-                option.defaultText = value;
+                option.editExtras().hasDefault = true;
+                option.editExtras().defaultText = value;
             } else if (key == "allow") {
                 if (hasAllow) {
                     return fail("attributes", "'allow' is given twice", error);
@@ -394,7 +394,7 @@ private:
                         return fail("attributes", "allowed value '" + piece + "' is not a valid " + option.kindName,
                                     error);
                     }
-                    option.allowed.push_back(allowed);
+                    option.editExtras().allowed.push_back(allowed);
                 }
                 hasAllow = true;
             } else if (key == "split") {
@@ -419,7 +419,7 @@ private:
                 if (!checkName(value, why)) {
                     return fail("attributes", "synonym: " + why, error);
                 }
-                option.synonyms.push_back(value);
+                option.editExtras().synonyms.push_back(value);
             } else {
                 return fail("attributes", "unknown attribute '" + std::string(key) + "'", error);
             }
@@ -506,14 +506,14 @@ private:
         for (std::string_view const& name : option.names) {
             addName(name, "names", nullptr, "");
         }
-        for (std::string_view const& name : option.synonyms) {
+        for (std::string_view const& name : option.extras().synonyms) {
             addName(name, "attributes", nullptr, "");
         }
         if (option.kind == tarvo2::vt_bool) {
             for (std::string_view const& name : option.names) {
                 addName(name, "names", &name, "no-");
             }
-            for (std::string_view const& name : option.synonyms) {
+            for (std::string_view const& name : option.extras().synonyms) {
                 addName(name, "attributes", &name, "no-");
             }
         }
@@ -574,6 +574,18 @@ bool isShellIdentifier(std::string const& text) {
     return true;
 }
 
+TableOptionExtras const& TableOption::extras() const {
+    static TableOptionExtras const none;
+    return m_extras == nullptr ? none : *m_extras;
+}
+
+TableOptionExtras& TableOption::editExtras() {
+    if (m_extras == nullptr) {
+        m_extras = std::make_unique<TableOptionExtras>();
+    }
+    return *m_extras;
+}
+
 TableOption const* OptionTable::helpOption() const {
     for (TableOption const& option : options) {
         if (option.kind != tarvo2::vt_empty) {
@@ -584,7 +596,7 @@ TableOption const* OptionTable::helpOption() const {
                 return &option;
             }
         }
-        for (std::string_view const& name : option.synonyms) {
+        for (std::string_view const& name : option.extras().synonyms) {
             if (name == "help") {
                 return &option;
             }

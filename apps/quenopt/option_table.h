@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <istream>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,25 +32,37 @@ private:
     std::size_t m_count = 0;
 };
 
+// What only some lines give: synonyms, a default and allowed values.
+struct TableOptionExtras {
+    std::vector<std::string_view> synonyms;  // synonym= attributes, in order
+    bool hasDefault = false;
+    tarvo2::variant_t defaultValue;
+    std::string_view defaultText;  // as written in the table
+    std::vector<tarvo2::variant_t> allowed;
+};
+
 // One line of the table, checked and ready to be registered. Its texts are
 // views of the table's text, which outlives it: a large table costs no heap
 // block per option.
 struct TableOption {
     int line = 0;
-    NameList names;
-    std::vector<std::string_view> synonyms;  // synonym= attributes, in order
-    char const* kindName = "";               // as written: bool, int, ..., none
     tarvo2::kel_variant_type_t kind = tarvo2::vt_empty;
+    NameList names;
+    char const* kindName = "";  // as written: bool, int, ..., none
     std::string_view group;
     std::string_view description;
-    bool hasDefault = false;
-    tarvo2::variant_t defaultValue;
-    std::string_view defaultText;  // as written in the table
-    std::vector<tarvo2::variant_t> allowed;
+    std::string variable;   // shell variable of the values; "_count" is appended for the count
     bool hasSplit = false;  // false keeps the library's own splitting at ','
     char split = ',';       // 0 after split=none
     bool positional = false;
-    std::string variable;  // shell variable of the values; "_count" is appended for the count
+
+    // The option's extras; none for most lines.
+    TableOptionExtras const& extras() const;
+    // The extras, made on first use.
+    TableOptionExtras& editExtras();
+
+private:
+    std::unique_ptr<TableOptionExtras> m_extras;
 };
 
 struct OptionTable {

@@ -85,14 +85,14 @@ void registerOption(quen_3_1::IParser& parser, TableOption const& option, Regist
     texts.group.assign(option.group);
     quen_3_1::IOption* registered =
         parser.option(texts.names.c_str(), texts.description.c_str(), option.kind, texts.group.c_str());
-    for (std::string_view const& synonym : option.synonyms) {
+    for (std::string_view const& synonym : option.extras().synonyms) {
         registered->synonym(std::string(synonym).c_str());
     }
-    for (tarvo2::variant_t const& allowed : option.allowed) {
+    for (tarvo2::variant_t const& allowed : option.extras().allowed) {
         registered->allowValue(allowed);
     }
-    if (option.hasDefault) {
-        registered->defaultValue(option.defaultValue);
+    if (option.extras().hasDefault) {
+        registered->defaultValue(option.extras().defaultValue);
     }
     if (option.hasSplit) {
         registered->tokenize(option.split);
@@ -162,7 +162,7 @@ OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& o
             // own text loses nothing.
             outcome.fromDefault = true;
             if (option.kind == tarvo2::vt_double) {
-                outcome.values.front().text = option.defaultText;
+                outcome.values.front().text = option.extras().defaultText;
             }
             return outcome;
         }
