@@ -622,14 +622,15 @@ bool readTable(std::istream& in, std::string const& source, std::string const& p
         return false;
     }
     // Sized for the common table (one name per line) at once: growing line by
-    // line costs more than the lookups. Every option claims two variables.
+    // line costs more than the lookups. An option's line takes at least six
+    // bytes ("a|int" and its newline), so a text of blank lines reserves no
+    // more than one of options would. Every option claims two variables.
     std::size_t const lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1;
-    // An option's line takes at least six bytes ("a|int" and its newline), so
-    // a text of blank lines reserves no more than one of options would.
-    table.options.reserve(std::min(lines, (text.size() + 1) / kShortestLine));
+    std::size_t const most = std::min(lines, (text.size() + 1) / kShortestLine);
+    table.options.reserve(most);
     TableState state;
-    state.names.reserve(lines);
-    state.variables.reserve(2 * lines);
+    state.names.reserve(most);
+    state.variables.reserve(2 * most);
     RunClaims claims(source, state);
     std::size_t unchecked = 0;  // options at the end of the table whose claims wait for their run
     std::string readError;
