@@ -1,9 +1,40 @@
 #include "line_claims.h"
 
+#include <chrono>
+#include <exception>
 #include <functional>
-#include <utility>
+#include <limits>
+#include <random>
+#include <stdexcept>
 
 namespace quenopt {
+
+namespace {
+
+// Spreads the bits of a word over the whole word.
+std::uint64_t scramble(std::uint64_t x) {
+    x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9ULL;
+    x = (x ^ (x >> 27)) * 0x94d049bb133111ebULL;
+    return x ^ (x >> 31);
+}
+
+// A key nobody can know in advance: random where the system has a source,
+// the clock and an address in any case.
+std::uint64_t makeKey() {
+    std::uint64_t key = static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    key ^= static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&key));
+    try {
+        std::random_device device;
+        key ^= (static_cast<std::uint64_t>(device()) << 32) ^ device();
+    } catch (std::exception const&) {
+        // No random source: the clock and the address remain.
+    }
+    return scramble(key);
+}
+
+}  // namespace
+
+LineClaims::LineClaims() : m_key(makeKey()) {}
 
 void LineClaims::reserve(std::size_t count) {
     std::size_t slots = 16;
@@ -13,53 +44,77 @@ void LineClaims::reserve(std::size_t count) {
     if (slots > m_slots.size()) {
         grow(slots);
     }
+    m_ends.reserve(count);
+    m_lines.reserve(count);
 }
 
-int LineClaims::lineOf(std::string const& text) const {
+void LineClaims::prefetch(std::uint64_t hash) const {
+    if (!m_slots.empty()) {
+        __builtin_prefetch(&m_slots[static_cast<std::size_t>(hash) & (m_slots.size() - 1)]);
+    }
+}
+
+int LineClaims::lineOf(std::string_view text, std::uint64_t hash) const {
     if (m_slots.empty()) {
         return 0;
     }
-    return m_slots[find(text, std::hash<std::string>()(text))].line;
+    Slot const& slot = m_slots[find(text, hash)];
+    return slot.claim == 0 ? 0 : m_lines[slot.claim - 1];
 }
 
-void LineClaims::claim(std::string const& text, int line) {
-    if (2 * (m_used + 1) > m_slots.size()) {
+void LineClaims::claim(std::string_view text, std::uint64_t hash, int line) {
+    if (2 * (m_lines.size() + 1) > m_slots.size()) {
         grow(m_slots.empty() ? 16 : 2 * m_slots.size());
     }
-    std::size_t const hash = std::hash<std::string>()(text);
-    Slot& slot = m_slots[find(text, hash)];
-    if (slot.line == 0) {
-        slot.hash = hash;
-        slot.line = line;
-        slot.text = text;
-        ++m_used;
+    std::size_t const at = find(text, hash);
+    if (m_slots[at].claim != 0) {
+        return;
     }
+    if (m_lines.size() >= std::numeric_limits<std::uint32_t>::max()) {
+        throw std::length_error("too many names in the table");
+    }
+    m_texts.append(text);
+    m_ends.push_back(m_texts.size());
+    m_lines.push_back(line);
+    m_slots[at] = Slot{static_cast<std::uint32_t>(hash >> 32), static_cast<std::uint32_t>(m_lines.size())};
+}
+
+std::uint64_t LineClaims::hashOf(std::string_view text) const {
+    return scramble(std::hash<std::string_view>()(text) ^ m_key);
+}
+
+std::string_view LineClaims::textOf(std::size_t claim) const {
+    std::size_t const begin = claim == 0 ? 0 : m_ends[claim - 1];
+    return std::string_view(m_texts).substr(begin, m_ends[claim] - begin);
 }
 
 // The slot holding `text`, or the empty slot where it would go.
-std::size_t LineClaims::find(std::string const& text, std::size_t hash) const {
+std::size_t LineClaims::find(std::string_view text, std::uint64_t hash) const {
     std::size_t const mask = m_slots.size() - 1;
-    std::size_t at = hash & mask;
-    while (m_slots[at].line != 0 && (m_slots[at].hash != hash || m_slots[at].text != text)) {
+    auto const tag = static_cast<std::uint32_t>(hash >> 32);
+    std::size_t at = static_cast<std::size_t>(hash) & mask;
+    while (m_slots[at].claim != 0 && (m_slots[at].tag != tag || textOf(m_slots[at].claim - 1) != text)) {
         at = (at + 1) & mask;
     }
     return at;
 }
 
-// Moves every claim to a table of `slots` slots (a power of two) by its kept hash.
-void LineClaims::grow(std::size_t slots) {
-    std::vector<Slot> old(slots);
-    old.swap(m_slots);
+// Puts a claim known to be absent into the first free slot of its run.
+void LineClaims::place(std::uint64_t hash, std::uint32_t claim) {
     std::size_t const mask = m_slots.size() - 1;
-    for (Slot& slot : old) {
-        if (slot.line == 0) {
-            continue;
-        }
-        std::size_t at = slot.hash & mask;
-        while (m_slots[at].line != 0) {
-            at = (at + 1) & mask;
-        }
-        m_slots[at] = std::move(slot);
+    std::size_t at = static_cast<std::size_t>(hash) & mask;
+    while (m_slots[at].claim != 0) {
+        at = (at + 1) & mask;
+    }
+    m_slots[at] = Slot{static_cast<std::uint32_t>(hash >> 32), claim};
+}
+
+// Moves every claim to a table of `slots` slots (a power of two); the hashes
+// are computed again from the store, read from end to end.
+void LineClaims::grow(std::size_t slots) {
+    m_slots.assign(slots, Slot());
+    for (std::size_t claim = 0; claim < m_lines.size(); ++claim) {
+        place(hashOf(textOf(claim)), static_cast<std::uint32_t>(claim + 1));
     }
 }
 

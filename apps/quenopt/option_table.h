@@ -8,34 +8,73 @@
 
 #include <quen_3_1/quen.h>
 
-#include <deque>
+#include <cstddef>
 #include <istream>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quenopt {
 
-// One line of the table, checked and ready to be registered.
-struct TableOption {
-    int line = 0;
-    std::vector<std::string> names;     // the names field, primary name first
-    std::vector<std::string> synonyms;  // synonym= attributes, in order
-    std::string kindName;               // as written: bool, int, ..., none
-    tarvo2::kel_variant_type_t kind = tarvo2::vt_empty;
-    std::string group;
-    std::string description;
+// The names field: up to three names, primary first.
+class NameList {
+public:
+    std::string_view const* begin() const { return m_names; }
+    std::string_view const* end() const { return m_names + m_count; }
+    std::size_t size() const { return m_count; }
+    std::string_view front() const { return m_names[0]; }
+    std::string_view operator[](std::size_t at) const { return m_names[at]; }
+    void push_back(std::string_view name) { m_names[m_count++] = name; }
+
+private:
+    std::string_view m_names[3];
+    std::size_t m_count = 0;
+};
+
+// What only some lines give: synonyms, a default and allowed values.
+struct TableOptionExtras {
+    std::vector<std::string_view> synonyms;  // synonym= attributes, in order
     bool hasDefault = false;
     tarvo2::variant_t defaultValue;
-    std::string defaultText;  // as written in the table
+    std::string_view defaultText;  // as written in the table
     std::vector<tarvo2::variant_t> allowed;
+};
+
+// One line of the table, checked and ready to be registered. Its texts are
+// views of the table's text, which outlives it: a large table costs no heap
+// block per option.
+struct TableOption {
+    int line = 0;
+    tarvo2::kel_variant_type_t kind = tarvo2::vt_empty;
+    NameList names;
+    char const* kindName = "";  // as written: bool, int, ..., none
+    std::string_view group;
+    std::string_view description;
+    std::string variable;   // shell variable of the values; "_count" is appended for the count
     bool hasSplit = false;  // false keeps the library's own splitting at ','
     char split = ',';       // 0 after split=none
     bool positional = false;
-    std::string variable;  // shell variable of the values; "_count" is appended for the count
+
+    // The option's extras; none for most lines.
+    TableOptionExtras const& extras() const;
+    // The extras, made on first use.
+    TableOptionExtras& editExtras();
+
+private:
+    std::unique_ptr<TableOptionExtras> m_extras;
 };
 
 struct OptionTable {
-    std::deque<TableOption> options;  // a deque: no copies of options as it grows
+    OptionTable() = default;
+    // The options' views point into `text`: a table stays where it was read.
+    OptionTable(OptionTable const&) = delete;
+    OptionTable& operator=(OptionTable const&) = delete;
+
+    std::string text;  // the table as read
+    // Reserved for every line of the text at once: no copies as it grows, and
+    // one block for all options instead of one for every few.
+    std::vector<TableOption> options;
 
     // The option that answers --help: kind none with "help" among its names.
     TableOption const* helpOption() const;

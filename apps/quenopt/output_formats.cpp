@@ -1,5 +1,7 @@
 #include "output_formats.h"
 
+#include <string>
+
 #include "escaping.h"
 #include "fail_closed.h"
 
@@ -49,8 +51,9 @@ void writeJson(std::ostream& out, ParseOutcome const& outcome) {
     out << "{\n  \"options\": {";
     char const* separator = "\n";
     for (OptionOutcome const& option : outcome.options) {
-        out << separator << "    " << jsonString(option.option->names.front()) << ": {\"count\": " << option.count
-            << ", \"default\": " << (option.fromDefault ? "true" : "false") << ", \"occurrences\": [";
+        out << separator << "    " << jsonString(std::string(option.option->names.front()))
+            << ": {\"count\": " << option.count << ", \"default\": " << (option.fromDefault ? "true" : "false")
+            << ", \"occurrences\": [";
         char const* inner = "";
         for (int occurrence : option.occurrences) {
             out << inner << occurrence;

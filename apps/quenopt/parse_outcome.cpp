@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <iostream>
 #include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "fail_closed.h"
@@ -63,21 +65,34 @@ struct ParserHolder {
     }
 };
 
-void registerOption(quen_3_1::IParser& parser, TableOption const& option) {
+// The texts that the library takes with their terminating NUL, in buffers
+// kept from one option to the next.
+struct RegistrationTexts {
     std::string names;
-    for (std::string const& name : option.names) {
-        names += (names.empty() ? "" : ",") + name;
+    std::string description;
+    std::string group;
+};
+
+void registerOption(quen_3_1::IParser& parser, TableOption const& option, RegistrationTexts& texts) {
+    texts.names.clear();
+    for (std::string_view const& name : option.names) {
+        if (!texts.names.empty()) {
+            texts.names += ',';
+        }
+        texts.names += name;
     }
+    texts.description.assign(option.description);
+    texts.group.assign(option.group);
     quen_3_1::IOption* registered =
-        parser.option(names.c_str(), option.description.c_str(), option.kind, option.group.c_str());
-    for (std::string const& synonym : option.synonyms) {
-        registered->synonym(synonym.c_str());
+        parser.option(texts.names.c_str(), texts.description.c_str(), option.kind, texts.group.c_str());
+    for (std::string_view const& synonym : option.extras().synonyms) {
+        registered->synonym(std::string(synonym).c_str());
     }
-    for (tarvo2::variant_t const& allowed : option.allowed) {
+    for (tarvo2::variant_t const& allowed : option.extras().allowed) {
         registered->allowValue(allowed);
     }
-    if (option.hasDefault) {
-        registered->defaultValue(option.defaultValue);
+    if (option.extras().hasDefault) {
+        registered->defaultValue(option.extras().defaultValue);
     }
     if (option.hasSplit) {
         registered->tokenize(option.split);
@@ -120,7 +135,8 @@ std::string valueText(TableOption const& option, quen_3_1::Value const& value) {
 OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& option) {
     OptionOutcome outcome;
     outcome.option = &option;
-    char const* name = option.names[0].c_str();
+    std::string const primary(option.names[0]);
+    char const* name = primary.c_str();
     quen_3_1::Value first = result.get(name);
     if (first.m_status != 0) {
         return outcome;
@@ -146,7 +162,7 @@ OptionOutcome collectOption(quen_3_1::IParseResult& result, TableOption const& o
             // own text loses nothing.
             outcome.fromDefault = true;
             if (option.kind == tarvo2::vt_double) {
-                outcome.values.front().text = option.defaultText;
+                outcome.values.front().text = option.extras().defaultText;
             }
             return outcome;
         }
@@ -206,8 +222,9 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
             problem = "cannot create a parser";
             return false;
         }
+        RegistrationTexts registration;
         for (TableOption const& option : table.options) {
-            registerOption(*holder.parser, option);
+            registerOption(*holder.parser, option, registration);
         }
         holder.parser->createResult(&holder.result);
 
@@ -229,8 +246,11 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
             outcome.error = holder.parser->getErrorDesc();
         }
 
+        // The options not given go straight to their place, in a vector sized
+        // for the whole table; the given ones (few, as a rule) are sorted apart
+        // and then moved in before them, without a second array of outcomes.
         std::vector<OptionOutcome> given;
-        std::vector<OptionOutcome> others;
+        outcome.options.reserve(table.options.size());
         TableOption const* positional = table.positionalOption();
         TableOption const* help = table.helpOption();
         std::vector<std::string> positionalTaken;
@@ -243,14 +263,13 @@ bool runParse(OptionTable const& table, int flags, std::vector<std::string> cons
                 outcome.help = true;
                 outcome.helpText = holder.parser->getDescription(false);
             }
-            (collected.occurrences.empty() ? others : given).push_back(std::move(collected));
+            (collected.occurrences.empty() ? outcome.options : given).push_back(std::move(collected));
         }
         std::stable_sort(given.begin(), given.end(), [](OptionOutcome const& a, OptionOutcome const& b) {
             return a.occurrences.front() < b.occurrences.front();
         });
-        outcome.options = std::move(given);
-        outcome.options.insert(outcome.options.end(), std::make_move_iterator(others.begin()),
-                               std::make_move_iterator(others.end()));
+        outcome.options.insert(outcome.options.begin(), std::make_move_iterator(given.begin()),
+                               std::make_move_iterator(given.end()));
 
         std::vector<std::string> afterTerminator;
         char const* text = nullptr;

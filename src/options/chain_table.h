@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "values/text_hash.h"
@@ -12,11 +11,13 @@
 namespace quen_3_1 {
 
 // The chains of candidates by their exact text: an open-addressing table
-// (linear probing, at most half full) whose slots hold the text's hash and
-// the chain, so that a lookup touches one run of adjacent slots instead of a
-// list of nodes spread over the heap; registering a hundred thousand names
-// then stays as cheap per name as registering a thousand. The texts are
-// not copied: `textOf(id)` gives the text of the candidate `id`.
+// (linear probing, at most half full) of 8-byte slots, each a part of the
+// text's hash and the number of its chain; the chains themselves lie in a
+// second array in the order their texts were added. A lookup of a new text
+// reads one short run of slots, and a hundred thousand names need 2 MiB of
+// slots, where slots holding the chains took three times that and left the
+// caches much sooner. The texts are not copied: `textOf(id)` gives the text
+// of the candidate `id`.
 class ChainTable {
 public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
@@ -33,61 +34,68 @@ public:
             return nullptr;
         }
         Slot const& slot = m_slots[probe(text, hashText(text), textOf)];
-        return slot.chain.head == npos ? nullptr : &slot.chain;
+        return slot.entry == 0 ? nullptr : &m_entries[slot.entry - 1].chain;
     }
 
     // The chain of `text`, an empty one (head npos) when it is new; the
     // caller links a candidate into a new chain before the next call.
     template <class TextOf>
     Chain& findOrAdd(std::string_view text, TextOf const& textOf) {
-        if (2 * (m_used + 1) > m_slots.size()) {
+        if (2 * (m_entries.size() + 1) > m_slots.size()) {
             grow();
         }
         std::uint64_t const hash = hashText(text);
         Slot& slot = m_slots[probe(text, hash, textOf)];
-        if (slot.chain.head == npos) {
-            slot.hash = hash;
-            ++m_used;
+        if (slot.entry == 0) {
+            m_entries.push_back(Entry{hash, Chain{npos, npos}});
+            slot = Slot{tagOf(hash), static_cast<std::uint32_t>(m_entries.size())};
         }
-        return slot.chain;
+        return m_entries[slot.entry - 1].chain;
     }
 
 private:
+    // Every chain holds a candidate of at least one byte of text beside its
+    // 24 bytes here, so memory runs out long before 2^32 chains.
     struct Slot {
-        std::uint64_t hash = 0;
-        Chain chain{npos, npos};
+        std::uint32_t tag = 0;    // the high half of the text's hash
+        std::uint32_t entry = 0;  // 1 + the index of the chain's entry; 0: empty
     };
+    struct Entry {
+        std::uint64_t hash;  // kept for growing without reading the texts
+        Chain chain;
+    };
+
+    static std::uint32_t tagOf(std::uint64_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
 
     // The slot of `text`, or the empty slot where it would go.
     template <class TextOf>
     std::size_t probe(std::string_view text, std::uint64_t hash, TextOf const& textOf) const {
         std::size_t const mask = m_slots.size() - 1;
+        std::uint32_t const tag = tagOf(hash);
         std::size_t at = static_cast<std::size_t>(hash) & mask;
-        while (m_slots[at].chain.head != npos && (m_slots[at].hash != hash || textOf(m_slots[at].chain.head) != text)) {
+        while (m_slots[at].entry != 0 &&
+               (m_slots[at].tag != tag || textOf(m_entries[m_slots[at].entry - 1].chain.head) != text)) {
             at = (at + 1) & mask;
         }
         return at;
     }
 
-    // Doubles the table; slots move by their kept hash, no text is read.
+    // Doubles the table; the entries are placed again by their kept hashes.
     void grow() {
-        std::vector<Slot> old(m_slots.empty() ? 16 : 2 * m_slots.size());
-        old.swap(m_slots);
+        m_slots.assign(m_slots.empty() ? 16 : 2 * m_slots.size(), Slot());
         std::size_t const mask = m_slots.size() - 1;
-        for (Slot const& slot : old) {
-            if (slot.chain.head == npos) {
-                continue;
-            }
-            std::size_t at = static_cast<std::size_t>(slot.hash) & mask;
-            while (m_slots[at].chain.head != npos) {
+        for (std::size_t index = 0; index < m_entries.size(); ++index) {
+            std::uint64_t const hash = m_entries[index].hash;
+            std::size_t at = static_cast<std::size_t>(hash) & mask;
+            while (m_slots[at].entry != 0) {
                 at = (at + 1) & mask;
             }
-            m_slots[at] = slot;
+            m_slots[at] = Slot{tagOf(hash), static_cast<std::uint32_t>(index + 1)};
         }
     }
 
     std::vector<Slot> m_slots;
-    std::size_t m_used = 0;
+    std::vector<Entry> m_entries;  // by chain, in the order their texts were added
 };
 
 }  // namespace quen_3_1

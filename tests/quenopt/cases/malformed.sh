@@ -54,3 +54,43 @@ x-count | int'
 table 'x | int' --prefix ''
 table 'x1 | int
 1x | int' --prefix ''
+# The first wrong line is the one reported, whether its names clash or it
+# cannot be read at all.
+table 'x | string
+x | string | | positional
+y | string | | positional'
+table 'x | string
+x | string
+y | integer'
+table 'x | string
+y | integer
+x | string'
+table 'a | int
+b | int
+c | int
+d | int
+e | int
+f | int
+g | int
+h | int
+i | int
+j | int
+k | int
+l | int
+m | int
+n | int
+o | int
+p | int
+q | int
+r | int
+s | int
+t-count | int
+t | int
+b | int'
+# Lines end at a newline, a carriage return before it included; the last
+# line needs none.
+printf 'x | int\r\n\r\n# comment\r\ny | int | | default=2\r' | runq --table - -- --x=1
+printf 'x | int\ny | int | | default=2' | runq --table - -- --x=1
+printf 'x | int\nx | int' | runq --table - -- --x=1
+# A table file given as standard input reads as from the file itself.
+runq --table - -- --x <tables/malformed.table

@@ -8,10 +8,10 @@ set -u
 quenopt=${1:?quenopt}
 small=10000
 large=100000
-# Linear work measures 9 to 23 times here: at the larger size the options
-# (quenopt's and the library's) no longer fit in the caches, and freeing them
-# costs more per option. Work that compares every item with every other
-# measures 40 (arguments) to 100 (table) times.
+# Linear work measures 7 to 12 times here, more on a loaded machine: at the
+# larger size the options (quenopt's and the library's) no longer fit in the
+# caches, and every hash lookup waits for memory. Work that compares every
+# item with every other measures 40 (arguments) to 100 (table) times.
 limit=30
 
 work=$(mktemp -d) || exit 1
