@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # quenopt's work grows linearly with the number of arguments and with the
 # number of options in its table. Each is measured at two sizes in the same
-# run (the best of three runs each) and the ratio of the times is checked:
-# ten times the input must not cost much more than ten times the time.
+# run, the two sizes in turns (the best of five runs each, so that a slow
+# spell of a shared machine falls on both) and the ratio of the times is
+# checked: ten times the input must not cost much more than ten times the time.
 # Usage: scaling.sh QUENOPT
 set -u
 quenopt=${1:?quenopt}
 small=10000
 large=100000
-# Linear work measures 7 to 12 times here, more on a loaded machine: at the
+# Linear work measures 8 to 10 times here, more on a loaded machine: at the
 # larger size the options (quenopt's and the library's) no longer fit in the
 # caches, and every hash lookup waits for memory. Work that compares every
 # item with every other measures 40 (arguments) to 100 (table) times.
@@ -24,20 +25,28 @@ for size in $small $large; do
     done >"$work/table$size"
 done
 
-# Prints the best of three wall-clock times, in microseconds, of quenopt
-# with the given arguments; its output must be as long as on the first run.
-best_of_three() {
-    local best='' start end elapsed
-    for _ in 1 2 3; do
-        start=$EPOCHREALTIME
-        "$quenopt" "$@" >"$work/out" || { echo "quenopt failed: exit $?" >&2; return 1; }
-        end=$EPOCHREALTIME
-        elapsed=$((10#${end/./} - 10#${start/./}))
-        if [[ -z $best ]] || ((elapsed < best)); then
-            best=$elapsed
-        fi
+# Runs quenopt once with the given arguments and prints the wall-clock time
+# in microseconds.
+timed_run() {
+    local start end
+    start=$EPOCHREALTIME
+    "$quenopt" "$@" >"$work/out" || { echo "quenopt failed: exit $?" >&2; return 1; }
+    end=$EPOCHREALTIME
+    echo $((10#${end/./} - 10#${start/./}))
+}
+
+# best_in_turns SMALL_ARGS_VAR LARGE_ARGS_VAR: five runs of each, small and
+# large in turns; prints the best time of each, small first.
+best_in_turns() {
+    local -n small_args=$1 large_args=$2
+    local best_small='' best_large='' elapsed
+    for _ in 1 2 3 4 5; do
+        elapsed=$(timed_run "${small_args[@]}") || return 1
+        if [[ -z $best_small ]] || ((elapsed < best_small)); then best_small=$elapsed; fi
+        elapsed=$(timed_run "${large_args[@]}") || return 1
+        if [[ -z $best_large ]] || ((elapsed < best_large)); then best_large=$elapsed; fi
     done
-    echo "$best"
+    echo "$best_small $best_large"
 }
 
 # Arguments that take every path: options with values, repeated flags and
@@ -66,12 +75,18 @@ check() {
 }
 
 arguments $small
-small_arguments=$(best_of_three --table "$work/fixed.table" -- "${arguments[@]}") || exit 1
+small_run=(--table "$work/fixed.table" -- "${arguments[@]}")
 arguments $large
-large_arguments=$(best_of_three --table "$work/fixed.table" -- "${arguments[@]}") || exit 1
-check arguments "$small_arguments" "$large_arguments"
+large_run=(--table "$work/fixed.table" -- "${arguments[@]}")
+read -r small_time large_time < <(best_in_turns small_run large_run) || exit 1
+[[ -n ${large_time:-} ]] || exit 1
+check arguments "$small_time" "$large_time"
 
-small_table=$(best_of_three --table "$work/table$small" -- --o5=x) || exit 1
-large_table=$(best_of_three --table "$work/table$large" -- --o5=x) || exit 1
-check "table options" "$small_table" "$large_table"
+# shellcheck disable=SC2034 # read by best_in_turns through its namerefs
+small_run=(--table "$work/table$small" -- --o5=x)
+# shellcheck disable=SC2034
+large_run=(--table "$work/table$large" -- --o5=x)
+read -r small_time large_time < <(best_in_turns small_run large_run) || exit 1
+[[ -n ${large_time:-} ]] || exit 1
+check "table options" "$small_time" "$large_time"
 exit $failed
