@@ -481,24 +481,28 @@ private:
         return m_claims[m_used++];
     }
 
-    void addName(std::string_view text, char const* field, std::string_view const* negationOf, char const* before) {
+    // The next claim on `table`: its text, hashed, and the slot it will probe fetched.
+    template <class Table>
+    Claim& add(Table& table, std::string_view before, std::string_view text, std::string_view after) {
         Claim& claim = next();
         claim.text.assign(before);
         claim.text += text;
+        claim.text += after;
+        claim.hash = table.hashOf(claim.text);
+        table.prefetch(claim.hash);
+        return claim;
+    }
+
+    void addName(std::string_view text, char const* field, std::string_view const* negationOf, char const* before) {
+        Claim& claim = add(m_state.names, before, text, {});
         claim.field = field;
         claim.negationOf = negationOf;
-        claim.hash = m_state.names.hashOf(claim.text);
-        m_state.names.prefetch(claim.hash);
     }
 
     void addVariable(std::string_view text, char const* suffix) {
-        Claim& claim = next();
-        claim.text.assign(text);
-        claim.text += suffix;
+        Claim& claim = add(m_state.variables, {}, text, suffix);
         claim.field = nullptr;
         claim.negationOf = nullptr;
-        claim.hash = m_state.variables.hashOf(claim.text);
-        m_state.variables.prefetch(claim.hash);
     }
 
     // The option's names, then the "no-" forms of a boolean's, then its two variables.
