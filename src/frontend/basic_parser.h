@@ -58,12 +58,15 @@ private:
     // Ok while sequence numbers are left; else NumbersExhausted, with the last error set.
     Status refuseWhenNumbersSpent();
     Status offerToPositional(std::string const& argument, ParseResult* result, std::string& error);
+    // The keeper's copy of an event's option name.
+    char const* keptEventName(char const* name);
 
     RegisteredOptionStorage m_storage;
     Garbage m_garbage;
     std::string m_lastError;
     std::int32_t m_flags;
     std::set<EventHandler*> m_handlers;
+    char const* m_lastEventName = nullptr;  // kept by m_garbage
 };
 
 }  // namespace quen_3_1

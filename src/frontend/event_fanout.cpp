@@ -1,5 +1,7 @@
 // Events raised during recognition reach every host handler in ascending
 // pointer order, each with the parser's own copy of the name.
+#include <cstring>
+
 #include "frontend/basic_parser.h"
 
 namespace quen_3_1 {
@@ -9,12 +11,25 @@ bool BasicParser::addHandler(EventHandler* handler) { return handler != nullptr 
 
 bool BasicParser::removeHandler(EventHandler* handler) { return m_handlers.erase(handler) != 0; }
 
+// An option's events come in a row (the option, then each of its values), and
+// the keeper gives equal texts one pointer: so the last name kept is reused
+// while the text is the same, without hashing it again.
+char const* BasicParser::keptEventName(char const* name) {
+    if (name == nullptr) {
+        return m_garbage.init(name);
+    }
+    if (m_lastEventName == nullptr || std::strcmp(name, m_lastEventName) != 0) {
+        m_lastEventName = m_garbage.init(name);
+    }
+    return m_lastEventName;
+}
+
 // A notification: every handler hears it, answers are ignored.
 bool BasicParser::onOptionParse(char const* name) {
     if (m_handlers.empty()) {
         return true;
     }
-    char const* const kept = m_garbage.init(name);
+    char const* const kept = keptEventName(name);
     for (EventHandler* handler : m_handlers) {
         handler->onOptionParse(kept);
     }
@@ -26,7 +41,7 @@ bool BasicParser::onValueParse(char const* name, Value const& value) {
     if (m_handlers.empty()) {
         return true;
     }
-    char const* const kept = m_garbage.init(name);
+    char const* const kept = keptEventName(name);
     bool accepted = true;
     for (auto it = m_handlers.begin(); accepted && it != m_handlers.end(); ++it) {
         accepted = (*it)->onValueParse(kept, value);

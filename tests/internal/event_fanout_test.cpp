@@ -221,6 +221,24 @@ TEST_F(EventFanoutTest, HandlersGetTheParsersKeptCopyOfTheName) {
     EXPECT_EQ(std::string(kept), "level");
 }
 
+// A caller's buffer reused for another name gets that name's copy, and a name
+// that comes back gets the copy it had before.
+TEST_F(EventFanoutTest, NamesChangingInOneBufferEachGetTheirOwnKeptCopy) {
+    ASSERT_TRUE(m_parser->addHandler(&handlers[0]));
+    char buffer[] = "level";
+    m_parser->onOptionParse(buffer);
+    std::strcpy(buffer, "mode!");
+    m_parser->onValueParse(buffer, sampleValue());
+    std::strcpy(buffer, "level");
+    m_parser->onValueParse(buffer, sampleValue());
+    m_parser->onOptionParse(nullptr);
+    ASSERT_EQ(calls.size(), 4u);
+    EXPECT_EQ(std::string(calls[0].text), "level");
+    EXPECT_EQ(std::string(calls[1].text), "mode!");
+    EXPECT_EQ(calls[2].text, calls[0].text);
+    EXPECT_EQ(std::string(calls[3].text), "");
+}
+
 TEST_F(EventFanoutTest, HandlersGetTheParsersKeptCopyOfTheArgument) {
     addBothReversed();
     std::string argument = "--mystery";
