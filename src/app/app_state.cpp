@@ -9,6 +9,13 @@
 
 namespace quen_3_1::app_detail {
 
+namespace {
+
+// Room for a typical program's options before the list first grows.
+std::size_t const kFirstOptions = 16;
+
+}  // namespace
+
 AppState::AppState(std::string program, std::string about)
     : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
@@ -30,6 +37,9 @@ void AppState::add(std::string names, std::string help, bool positional, std::un
         return;
     }
     m_vectorPositional = m_vectorPositional || (positional && state->binding().takesMany());
+    if (m_options.empty()) {
+        m_options.reserve(kFirstOptions);
+    }
     m_options.push_back(std::move(state));
 }
 
