@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -75,18 +76,18 @@ public:
         }
     }
 
-    std::string check(std::string const& option, std::string const& text) const override {
+    std::string check(std::string_view option, std::string const& text) const override {
         Element value{};
         if (!readWhole(text, value)) {
-            return text::notWhole(option, text, wholeKind(value));
+            return text::notWhole(std::string(option), text, wholeKind(value));
         }
         if (m_range && (value < m_range->first || m_range->second < value)) {
-            return text::outOfRange(option, text, valueText(m_range->first), valueText(m_range->second));
+            return text::outOfRange(std::string(option), text, valueText(m_range->first), valueText(m_range->second));
         }
         for (auto const& test : m_checks) {
             std::string reason = test ? test(value) : std::string();
             if (!reason.empty()) {
-                return text::failedCheck(option, text, reason);
+                return text::failedCheck(std::string(option), text, reason);
             }
         }
         return {};
