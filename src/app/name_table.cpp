@@ -24,9 +24,10 @@ std::size_t hashOf(std::string_view name) {
         hash = (hash ^ word) * kMultiplier;
         hash ^= hash >> 29U;
     }
+    // The last bytes one by one: a copy of a variable length would be a call.
     std::uint64_t tail = 0;
-    if (at < name.size()) {
-        std::memcpy(&tail, name.data() + at, name.size() - at);
+    for (; at < name.size(); ++at) {
+        tail = (tail << 8U) | static_cast<unsigned char>(name[at]);
     }
     hash = (hash ^ tail) * kMultiplier;
     return static_cast<std::size_t>(hash ^ (hash >> 32U));
