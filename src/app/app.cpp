@@ -19,6 +19,7 @@ namespace {
 
 Arguments argumentsOf(int argc, char const* const* argv) {
     Arguments args;
+    args.reserve(argv == nullptr || argc < 1 ? 0 : static_cast<std::size_t>(argc - 1));
     for (int i = 1; argv != nullptr && i < argc; ++i) {
         args.push_back(argv[i] == nullptr ? "" : argv[i]);
     }

@@ -9,45 +9,55 @@
 
 namespace quen_3_1::app_detail {
 
+namespace {
+
+// Room for a typical program's options before the list first grows.
+std::size_t const kFirstOptions = 16;
+
+}  // namespace
+
 AppState::AppState(std::string program, std::string about)
     : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
 void AppState::add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state) {
-    std::vector<std::string> split = splitNameList(names);
+    NameList const split = NameList::split(names);
     bool const flag = !positional && state->binding().kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
     if (!ok) {
         refuse(text::badName(names));
-    } else if (!take(split, flag, static_cast<std::uint32_t>(m_options.size()))) {
+    } else if (!take(split, names, flag, static_cast<std::uint32_t>(m_options.size()))) {
         ok = false;
     } else if (positional && m_vectorPositional) {
         refuse(text::positionalAfterVector(names));
         ok = false;
     }
-    if (split.empty()) {
-        split.push_back(names);
-    }
-    state->declare(std::move(names), std::move(split), std::move(help), positional);
+    state->declare(std::move(names), split, std::move(help), positional);
     if (!ok) {
         m_refused.push_back(std::move(state));
         return;
     }
     m_vectorPositional = m_vectorPositional || (positional && state->binding().takesMany());
+    if (m_options.empty()) {
+        m_options.reserve(kFirstOptions);
+    }
     m_options.push_back(std::move(state));
 }
 
 void AppState::addFile(std::string names, std::string help) {
-    std::vector<std::string> split = splitNameList(names);
+    NameList const split = NameList::split(names);
     if (split.empty()) {
         refuse(text::badName(names));
-    } else if (take(split, false, name_id::kFile | static_cast<std::uint32_t>(m_files.size()))) {
-        m_files.push_back(FileOption{std::move(names), std::move(split), std::move(help), m_options.size()});
+    } else if (take(split, names, false, name_id::kFile | static_cast<std::uint32_t>(m_files.size()))) {
+        std::vector<std::string> each;
+        for (std::size_t i = 0; i < split.size(); ++i) {
+            each.emplace_back(split.at(names, i));
+        }
+        m_files.push_back(FileOption{std::move(names), std::move(each), std::move(help), m_options.size()});
     }
 }
 
 App& AppState::addCommand(std::string name, std::string about) {
-    std::vector<std::string> const split = splitNameList(name);
-    if (split.size() != 1) {
+    if (NameList::split(name).size() != 1) {
         refuse(text::badName(name));
     }
     for (auto const& command : m_commands) {
@@ -89,16 +99,16 @@ std::string AppState::mistake() const {
 
 // In the order the library would meet them: each name, then a flag's no- form of it. A
 // refusal leaves the names before it claimed, which no one looks up: the App is refused.
-bool AppState::take(std::vector<std::string> const& names, bool flag, std::uint32_t id) {
+bool AppState::take(NameList const& names, std::string_view text, bool flag, std::uint32_t id) {
     if (m_names.use_count() > 1) {
         m_names = std::make_shared<NameTable>(*m_names);
     }
-    std::string negated;
-    for (std::string const& name : names) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        std::string_view const name = names.at(text, i);
         if (!claim(name, id)) {
             return false;
         }
-        if (flag && !claim(negated.assign(kNegation).append(name), id | name_id::kNegated)) {
+        if (flag && !claim(m_negated.assign(kNegation).append(name), id | name_id::kNegated)) {
             return false;
         }
     }
@@ -106,9 +116,9 @@ bool AppState::take(std::vector<std::string> const& names, bool flag, std::uint3
 }
 
 // A list may name the same option twice, or name a flag like its own no- form: a real name wins.
-bool AppState::claim(std::string const& name, std::uint32_t id) {
+bool AppState::claim(std::string_view name, std::uint32_t id) {
     if (name == kCollectorName) {
-        refuse(text::reservedName(name));
+        refuse(text::reservedName(std::string(name)));
         return false;
     }
     std::uint32_t const held = m_names->insert(name, id);
@@ -116,7 +126,7 @@ bool AppState::claim(std::string const& name, std::uint32_t id) {
         return true;
     }
     if ((held | name_id::kNegated) != (id | name_id::kNegated)) {
-        refuse(text::declaredTwice(name));
+        refuse(text::declaredTwice(std::string(name)));
         return false;
     }
     if ((id & name_id::kNegated) == 0) {

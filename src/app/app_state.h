@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/name_list.h"
 #include "app/name_table.h"
 #include "app/option_state.h"
 #include "quen_3_1/app.h"
@@ -72,8 +73,8 @@ public:
 private:
     // Claims the names (a flag's no- forms too) for `id`; false (and the mistake kept) when
     // one is taken or reserved.
-    bool take(std::vector<std::string> const& names, bool flag, std::uint32_t id);
-    bool claim(std::string const& name, std::uint32_t id);
+    bool take(NameList const& names, std::string_view text, bool flag, std::uint32_t id);
+    bool claim(std::string_view name, std::uint32_t id);
     void refuse(std::string const& what);
     std::string referenceMistake() const;
 
@@ -81,6 +82,8 @@ private:
     std::shared_ptr<NameTable> m_names;
     std::vector<std::unique_ptr<OptionState>> m_refused;
     std::string m_mistake;
+    // A flag's no- form of a name, built here to be looked up.
+    std::string m_negated;
     bool m_vectorPositional = false;
 };
 

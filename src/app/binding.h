@@ -3,6 +3,7 @@
 #define QUEN_3_1_SRC_APP_BINDING_H
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "quen_3_1/app.h"
@@ -25,8 +26,9 @@ public:
     // Hands the variable's value to the library's option as its default, for the help text only:
     // the layer leaves a variable alone when nothing gives it a value.
     virtual void showDefault(IOption& option) const = 0;
-    // Empty when `text` is a value that `option` takes, the reason otherwise.
-    virtual std::string check(std::string const& option, std::string const& text) const = 0;
+    // Empty when `text` is a value that `option` takes, the reason otherwise (the name is
+    // copied only into a reason).
+    virtual std::string check(std::string_view option, std::string const& text) const = 0;
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
     virtual void assign(Entry const* first, Entry const* last) = 0;
     // A declaration mistake of the refinements, or empty.

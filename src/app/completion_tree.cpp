@@ -34,7 +34,7 @@ std::string fishQuoted(std::string const& text) {
 }
 
 // How a user writes the name: -j, --jobs.
-std::string typed(std::string const& name) { return (name.size() == 1 ? "-" : "--") + name; }
+std::string typed(std::string_view name) { return (name.size() == 1 ? "-" : "--") + std::string(name); }
 
 std::vector<std::string> optionWords(AppState const& app, bool top) {
     std::vector<std::string> words;
@@ -42,10 +42,11 @@ std::vector<std::string> optionWords(AppState const& app, bool top) {
         if (option->positional() || option->m_hidden) {
             continue;
         }
-        for (std::string const& name : option->names()) {
+        for (std::size_t i = 0; i < option->nameCount(); ++i) {
+            std::string_view const name = option->nameAt(i);
             words.push_back(typed(name));
             if (option->binding().kind() == tarvo2::vt_bool && name.size() > 1) {
-                words.push_back("--no-" + name);
+                words.push_back("--no-" + std::string(name));
             }
         }
     }

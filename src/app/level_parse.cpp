@@ -50,7 +50,7 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
     : m_app(app),
       m_root(root),
       m_session(app, &app == &root),
-      m_line{{}, {}, std::vector<std::size_t>(m_session.layout().size())},
+      m_line{Source::CommandLine, {}, std::vector<std::size_t>(m_session.layout().size())},
       m_positionalCounts(app.m_options.size()) {}
 
 bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
@@ -79,7 +79,7 @@ bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>
 bool LevelParse::stopAtBuiltin(ResultData& out) {
     SlotLayout const& layout = m_session.layout();
     auto const given = [&](std::size_t slot) { return m_line.counts[slot] != 0; };
-    Entry const* const shell = lastOf(m_line, layout.completion());
+    SourceValue const* const shell = lastOf(m_line, layout.completion());
     if (given(layout.help())) {
         out.m_message = helpText(m_app, CoreSession::description(m_app, &m_app == &m_root));
     } else if (given(layout.version())) {
@@ -214,9 +214,9 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     };
     std::vector<std::size_t> place(options + 1);
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
-        for (std::uint32_t const slot : source->slots) {
-            if (taken(source, slot)) {
-                ++place[slot + 1];
+        for (SourceValue const& value : source->values) {
+            if (taken(source, value.slot)) {
+                ++place[value.slot + 1];
             }
         }
     }
@@ -234,10 +234,13 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     }
     out.m_entries.resize(base + place[options], Entry{});
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
-        for (std::size_t k = 0; k < source->entries.size(); ++k) {
-            std::size_t const slot = source->slots[k];
-            if (taken(source, slot)) {
-                out.m_entries[base + place[slot]++] = std::move(source->entries[k]);
+        for (SourceValue& value : source->values) {
+            if (taken(source, value.slot)) {
+                Entry& entry = out.m_entries[base + place[value.slot]++];
+                entry.name = m_app.m_options[value.slot]->name();
+                entry.text = std::move(value.text);
+                entry.sequence = value.sequence;
+                entry.source = source->source;
             }
         }
     }

@@ -1,12 +1,8 @@
 #include "app/name_list.h"
 
-#include <string_view>
-
 namespace quen_3_1::app_detail {
 
 namespace {
-
-std::size_t const kMostNames = 3;
 
 // No empty name, no leading '-', no '=', ',' or blank anywhere.
 bool isGoodName(std::string_view name) {
@@ -23,28 +19,26 @@ bool isGoodName(std::string_view name) {
 
 }  // namespace
 
-std::vector<std::string> splitNameList(std::string const& text) {
-    std::vector<std::string> names;
-    std::string_view rest = text;
+NameList NameList::split(std::string_view text) {
+    NameList list;
+    std::size_t offset = 0;
     while (true) {
-        std::size_t const comma = rest.find(',');
-        std::string_view const name = rest.substr(0, comma);
-        if (!isGoodName(name) || names.size() == kMostNames) {
+        std::size_t const comma = text.find(',', offset);
+        std::string_view const name = text.substr(offset, comma == std::string_view::npos ? comma : comma - offset);
+        if (!isGoodName(name) || list.m_count == kMostNames) {
             return {};
         }
-        if (names.empty()) {
-            names.reserve(comma == std::string_view::npos ? 1 : kMostNames);
-        }
-        names.emplace_back(name);
+        list.m_places[list.m_count++] =
+            Place{static_cast<std::uint32_t>(offset), static_cast<std::uint32_t>(name.size())};
         if (comma == std::string_view::npos) {
             break;
         }
-        rest.remove_prefix(comma + 1);
+        offset = comma + 1;
     }
-    if (names.size() == kMostNames && names[2].size() > 2) {
+    if (list.m_count == kMostNames && list.m_places[2].size > 2) {
         return {};
     }
-    return names;
+    return list;
 }
 
 }  // namespace quen_3_1::app_detail

@@ -5,9 +5,11 @@
 #define QUEN_3_1_SRC_APP_OPTION_STATE_H
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/binding.h"
+#include "app/name_list.h"
 
 namespace quen_3_1::app_detail {
 
@@ -19,12 +21,15 @@ public:
     virtual ~OptionState() = default;
 
     // Once, when the App takes the declaration.
-    void declare(std::string namesText, std::vector<std::string> names, std::string help, bool positional);
+    // `names` is `namesText` split (empty when it breaks the rules).
+    void declare(std::string namesText, NameList names, std::string help, bool positional);
 
     std::string const& namesText() const { return m_namesText; }
-    std::vector<std::string> const& names() const { return m_names; }
-    // The first name: the one the library reports and events carry.
-    std::string const& name() const { return m_names.front(); }
+    std::size_t nameCount() const { return m_names.size(); }
+    std::string_view nameAt(std::size_t i) const { return m_names.at(m_namesText, i); }
+    // The first name: the one the library reports and events carry (the whole
+    // text when it could not be split).
+    std::string const& name() const { return m_name; }
     std::string const& help() const { return m_help; }
     bool positional() const { return m_positional; }
     virtual Binding& binding() = 0;
@@ -39,7 +44,8 @@ public:
 
 private:
     std::string m_namesText;
-    std::vector<std::string> m_names;
+    NameList m_names;
+    std::string m_name;
     std::string m_help;
     bool m_positional = false;
 };

@@ -1,7 +1,5 @@
 #include "app/slot_layout.h"
 
-#include <cstring>
-
 #include "app/collector_name.h"
 #include "app/name_id.h"
 
@@ -10,7 +8,7 @@ namespace quen_3_1::app_detail {
 SlotLayout::SlotLayout(AppState const& app, BuiltinNames const& builtins)
     : m_app(app), m_builtins(builtins), m_options(app.m_options.size()), m_files(app.m_files.size()) {}
 
-std::size_t SlotLayout::of(char const* name) const {
+std::size_t SlotLayout::of(std::string_view name) const {
     std::uint32_t const id = m_app.names().find(name);
     if (id != NameTable::kNone && name_id::isOption(id)) {
         return option(id);
@@ -18,7 +16,7 @@ std::size_t SlotLayout::of(char const* name) const {
     if (id != NameTable::kNone && name_id::isFile(id)) {
         return file(id & name_id::kIndex);
     }
-    if (std::strcmp(name, kCollectorName) == 0) {
+    if (name == kCollectorName) {
         return collector();
     }
     if (!m_builtins.help.empty() && m_builtins.help == name) {

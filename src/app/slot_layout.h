@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "app/app_state.h"
 
@@ -35,7 +36,7 @@ public:
     std::size_t options() const { return m_options; }
 
     // The slot of the option the library reports as `name`, or size() when there is none.
-    std::size_t of(char const* name) const;
+    std::size_t of(std::string_view name) const;
 
 private:
     AppState const& m_app;

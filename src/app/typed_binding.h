@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -75,21 +76,17 @@ public:
         }
     }
 
-    std::string check(std::string const& option, std::string const& text) const override {
-        Element value{};
-        if (!readWhole(text, value)) {
-            return text::notWhole(option, text, wholeKind(value));
-        }
-        if (m_range && (value < m_range->first || m_range->second < value)) {
-            return text::outOfRange(option, text, valueText(m_range->first), valueText(m_range->second));
-        }
-        for (auto const& test : m_checks) {
-            std::string reason = test ? test(value) : std::string();
-            if (!reason.empty()) {
-                return text::failedCheck(option, text, reason);
+    std::string check(std::string_view option, std::string const& text) const override {
+        if constexpr (std::is_same_v<Element, std::string>) {
+            // A text is its own value: nothing to convert, nothing to copy.
+            return refine(option, text, text);
+        } else {
+            Element value{};
+            if (!readWhole(text, value)) {
+                return text::notWhole(std::string(option), text, wholeKind(value));
             }
+            return refine(option, text, value);
         }
-        return {};
     }
 
     void assign(Entry const* first, Entry const* last) override {
@@ -99,10 +96,10 @@ public:
         if constexpr (isVector) {
             m_target.clear();
             for (; first != last; ++first) {
-                m_target.push_back(read(first->text));
+                m_target.push_back(valueOf(first->text));
             }
         } else {
-            m_target = read((last - 1)->text);
+            m_target = valueOf((last - 1)->text);
         }
     }
 
@@ -117,10 +114,29 @@ private:
     static constexpr bool isVector = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
     static constexpr bool isOptional = !std::is_same_v<T, Element> && !isVector;
 
-    static Element read(std::string const& text) {
-        Element value{};
-        readWhole(text, value);
-        return value;
+    // The value of a checked text: a text itself (copied once, into the variable), a number read.
+    static decltype(auto) valueOf(std::string const& text) {
+        if constexpr (std::is_same_v<Element, std::string>) {
+            return (text);
+        } else {
+            Element value{};
+            readWhole(text, value);
+            return value;
+        }
+    }
+
+    // The range and the host's checks, for a value that is whole.
+    std::string refine(std::string_view option, std::string const& text, Element const& value) const {
+        if (m_range && (value < m_range->first || m_range->second < value)) {
+            return text::outOfRange(std::string(option), text, valueText(m_range->first), valueText(m_range->second));
+        }
+        for (auto const& test : m_checks) {
+            std::string reason = test ? test(value) : std::string();
+            if (!reason.empty()) {
+                return text::failedCheck(std::string(option), text, reason);
+            }
+        }
+        return {};
     }
 
     T& m_target;

@@ -8,15 +8,14 @@ namespace quen_3_1::app_detail {
 ValueGate::ValueGate(AppState const& app, SlotLayout const& layout) : m_app(app), m_layout(layout) {}
 
 void ValueGate::begin(Source source, SourceValues& into, std::size_t arguments) {
-    m_source = source;
+    into.source = source;
     m_into = &into;
     if (into.counts.size() < m_layout.size()) {
         into.counts.resize(m_layout.size());
     }
     // Only the first time: a source parsed again (file after file) grows as vectors do.
-    if (into.entries.empty()) {
-        into.entries.reserve(arguments);
-        into.slots.reserve(arguments);
+    if (into.values.empty()) {
+        into.values.reserve(arguments);
     }
     m_refusal.clear();
     m_unknown.clear();
@@ -24,7 +23,7 @@ void ValueGate::begin(Source source, SourceValues& into, std::size_t arguments) 
 }
 
 // A value event follows the event of its option: the name is looked up once.
-std::size_t ValueGate::slotOf(char const* name) {
+std::size_t ValueGate::slotOf(std::string_view name) {
     if (m_lastSlot < m_layout.options() && m_app.m_options[m_lastSlot]->name() == name) {
         return m_lastSlot;
     }
@@ -49,7 +48,7 @@ bool ValueGate::onOptionParse(char const* name) {
     // occurrence took the next number after the last value, which no event tells.
     m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
-        record(slot, Entry{name, std::string(), ++m_lastSequence, m_source});
+        record(slot, std::string(), ++m_lastSequence);
     }
     return true;
 }
@@ -71,20 +70,19 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
         }
     }
     m_lastSequence = value.m_index;
-    Entry* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;
+    SourceValue* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;
     if (last != nullptr) {
         last->text = std::move(text);
         last->sequence = value.m_index;
         m_emptyArgument = false;
         return true;
     }
-    record(slot, Entry{name, std::move(text), value.m_index, m_source});
+    record(slot, std::move(text), value.m_index);
     return true;
 }
 
-void ValueGate::record(std::size_t slot, Entry entry) {
-    m_into->entries.push_back(std::move(entry));
-    m_into->slots.push_back(static_cast<std::uint32_t>(slot));
+void ValueGate::record(std::size_t slot, std::string text, std::int32_t sequence) {
+    m_into->values.push_back(SourceValue{std::move(text), sequence, static_cast<std::uint32_t>(slot)});
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {

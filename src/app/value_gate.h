@@ -5,6 +5,7 @@
 #define QUEN_3_1_SRC_APP_VALUE_GATE_H
 
 #include <string>
+#include <string_view>
 
 #include "app/app_state.h"
 #include "app/slot_layout.h"
@@ -36,12 +37,11 @@ public:
     std::int32_t lastSequence() const { return m_lastSequence; }
 
 private:
-    std::size_t slotOf(char const* name);
-    void record(std::size_t slot, Entry entry);
+    std::size_t slotOf(std::string_view name);
+    void record(std::size_t slot, std::string text, std::int32_t sequence);
 
     AppState const& m_app;
     SlotLayout const& m_layout;
-    Source m_source = Source::CommandLine;
     SourceValues* m_into = nullptr;
     std::string m_refusal;
     std::string m_unknown;

@@ -110,11 +110,6 @@ bool readWhole(std::string const& text, double& out) {
     return true;
 }
 
-bool readWhole(std::string const& text, std::string& out) {
-    out = text;
-    return true;
-}
-
 std::string wholeKind(bool const& /*tag*/) { return "1 or 0"; }
 std::string wholeKind(int const& /*tag*/) { return "a whole integer"; }
 std::string wholeKind(unsigned const& /*tag*/) { return "a whole unsigned integer"; }
@@ -123,7 +118,6 @@ std::string wholeKind(unsigned long long const& /*tag*/) {
     return "a whole unsigned 64 bit integer (decimal, 0x... or ...h)";
 }
 std::string wholeKind(double const& /*tag*/) { return "a finite decimal number"; }
-std::string wholeKind(std::string const& /*tag*/) { return "a text"; }
 
 std::string valueText(bool value) { return value ? "1" : "0"; }
 std::string valueText(int value) { return std::to_string(value); }

@@ -15,7 +15,6 @@ bool readWhole(std::string const& text, long long& out);
 // Also the library's hexadecimal forms: 0x1F, 1Fh.
 bool readWhole(std::string const& text, unsigned long long& out);
 bool readWhole(std::string const& text, double& out);
-bool readWhole(std::string const& text, std::string& out);
 
 // What a value of the type must look like, for messages.
 std::string wholeKind(bool const& /*tag*/);
@@ -24,7 +23,6 @@ std::string wholeKind(unsigned const& /*tag*/);
 std::string wholeKind(long long const& /*tag*/);
 std::string wholeKind(unsigned long long const& /*tag*/);
 std::string wholeKind(double const& /*tag*/);
-std::string wholeKind(std::string const& /*tag*/);
 
 // The value as a text, for messages.
 std::string valueText(bool value);

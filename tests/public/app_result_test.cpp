@@ -273,3 +273,21 @@ TEST(ResultLookup, ManyOptionsEachFoundByEveryName) {
 }
 
 }  // namespace
+
+// Names of one to twenty letters that share their first letters: each is found as itself,
+// whether it fills eight-letter words exactly or ends inside one.
+TEST(ResultLookup, NamesThatDifferOnlyInLengthAreToldApart) {
+    quen_3_1::App app("prog");
+    std::vector<int> values(20);
+    for (std::size_t length = 1; length <= values.size(); ++length) {
+        app.option(std::string(length, 'k'), values[length - 1], "A value.");
+    }
+    quen_3_1::Result const result = parseLine(app, {"--kkkkkkkk=8", "-k", "1", "--kkkkkkkkkkkkkkkkk=17"});
+    ASSERT_EQ(result.exitCode(), 0) << result.message();
+    for (std::size_t length = 1; length <= values.size(); ++length) {
+        bool const given = length == 1 || length == 8 || length == 17;
+        EXPECT_EQ(result.given(std::string(length, 'k')), given) << length;
+        EXPECT_EQ(values[length - 1], given ? static_cast<int>(length) : 0) << length;
+    }
+    EXPECT_FALSE(result.given(std::string(21, 'k')));
+}
