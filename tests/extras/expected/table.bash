@@ -1,10 +1,10 @@
-# Completion of 'quen-sample' options: names, --no- forms, allowed values, files,
+# Completion of 'it'\''s $(x) `y`\z' options: names, --no- forms, allowed values, files,
 # and abbreviations of every part of a name (--l-f gives --log-file).
 
 # Indices in `names` of the best-scoring names for the typed name $1: two
 # points for an equal part, one for a part it begins, none unless every part
 # matches and both have as many parts. Sets `best`, declared by the caller.
-_quen_best_quen_2dsample() {
+_quen_best_it_27s_20_24_28x_29_20_60y_60_5cz() {
     local rest=$1 score top=0 i j
     local -a typed=() parts=()
     best=()
@@ -44,7 +44,7 @@ _quen_best_quen_2dsample() {
 }
 
 # File names that begin with $2, each behind the text $1.
-_quen_files_quen_2dsample() {
+_quen_files_it_27s_20_24_28x_29_20_60y_60_5cz() {
     local file
     compopt -o filenames 2>/dev/null
     while IFS= read -r file; do
@@ -52,13 +52,14 @@ _quen_files_quen_2dsample() {
     done < <(compgen -f -- "$2")
 }
 
-_quen_complete_quen_2dsample() {
-    local -a names=('log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files')
-    local -a owners=(0 1 2 3 4 4 4 4 5 6 7 7 8 8 9)
-    local -a kinds=(f v v x b n v b f f)
+_quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz() {
+    local -a names=('log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files' 'a$(touch${IFS}marker)' 'b`touch marker`' 'c'\''q'\''"d"' 'no-c'\''q'\''"d"' 'd;e|f&g' '@ID@' '@DATA@')
+    local -a owners=(0 1 2 3 4 4 4 4 5 6 7 7 8 8 9 10 11 12 12 13 14 15)
+    local -a kinds=(f v v x b n v b f f n f b v n x)
     local -a values_1=('plain' 'json' 'json-lines')
     local -a values_2=('1' '2')
     local -a values_6=('fast' 'slow' 'safe mode')
+    local -a values_13=('it'\''s' 'back\slash' '$HOME' '*')
     local positional=1
     local cur=${COMP_WORDS[COMP_CWORD]} cword=$COMP_CWORD
     local word option='' value='' lead='' next='' kind='' form=-- i ref quoted
@@ -67,7 +68,7 @@ _quen_complete_quen_2dsample() {
     # After the terminator every word is a plain argument.
     for ((i = 1; i < cword; i++)); do
         if [[ ${COMP_WORDS[i]} == -- ]]; then
-            _quen_files_quen_2dsample '' "$cur"
+            _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz '' "$cur"
             return 0
         fi
     done
@@ -88,7 +89,7 @@ _quen_complete_quen_2dsample() {
         else
             word=${option:1}
         fi
-        _quen_best_quen_2dsample "$word"
+        _quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word"
         if ((${#best[@]} == 1)); then
             kind=${kinds[owners[best[0]]]}
         fi
@@ -104,14 +105,14 @@ _quen_complete_quen_2dsample() {
                     fi
                 done
             elif [[ $kind == f ]]; then
-                _quen_files_quen_2dsample "$lead" "$value"
+                _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz "$lead" "$value"
             fi
             return 0
         fi
     fi
     if [[ $cur != -* ]]; then
         if ((positional)); then
-            _quen_files_quen_2dsample '' "$cur"
+            _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz '' "$cur"
             return 0
         fi
         if [[ -n $cur ]]; then
@@ -134,7 +135,7 @@ _quen_complete_quen_2dsample() {
         fi
     done
     if ((${#COMPREPLY[@]} == 0)); then
-        _quen_best_quen_2dsample "$word"
+        _quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word"
         for i in "${best[@]}"; do
             printf -v quoted '%q' "$form${names[i]}"
             COMPREPLY+=("$quoted")
@@ -143,4 +144,4 @@ _quen_complete_quen_2dsample() {
     return 0
 }
 
-complete -F _quen_complete_quen_2dsample -- 'quen-sample'
+complete -F _quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz -- 'it'\''s $(x) `y`\z'

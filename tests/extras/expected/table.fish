@@ -1,10 +1,10 @@
-# Completion of 'quen-sample' options: names, --no- forms, allowed values, files,
+# Completion of 'it\'s $(x) `y`\\z' options: names, --no- forms, allowed values, files,
 # and abbreviations of every part of a name (--l-f gives --log-file).
 
 # Indices among the names $argv[2..] of the best-scoring ones for the typed
 # name $argv[1]: two points for an equal part, one for a part it begins, none
 # unless every part matches and both have as many parts.
-function _quen_best_quen_2dsample
+function _quen_best_it_27s_20_24_28x_29_20_60y_60_5cz
     set -l typed (string split -- - $argv[1])
     set -l top 0
     set -l best
@@ -39,19 +39,20 @@ function _quen_best_quen_2dsample
 end
 
 # File names that begin with $argv[2], each behind the text $argv[1].
-function _quen_files_quen_2dsample
+function _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz
     for file in (__fish_complete_path $argv[2])
         printf '%s\n' "$argv[1]$file"
     end
 end
 
-function _quen_complete_quen_2dsample
-    set -l names 'log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files'
-    set -l owners 1 2 3 4 5 5 5 5 6 7 8 8 9 9 10
-    set -l kinds f v v x b n v b f f
+function _quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz
+    set -l names 'log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files' 'a$(touch${IFS}marker)' 'b`touch marker`' 'c\'q\'"d"' 'no-c\'q\'"d"' 'd;e|f&g' '@ID@' '@DATA@'
+    set -l owners 1 2 3 4 5 5 5 5 6 7 8 8 9 9 10 11 12 13 13 14 15 16
+    set -l kinds f v v x b n v b f f n f b v n x
     set -l values_2 'plain' 'json' 'json-lines'
     set -l values_3 '1' '2'
     set -l values_7 'fast' 'slow' 'safe mode'
+    set -l values_14 'it\'s' 'back\\slash' '$HOME' '*'
     set -l positional 1
     set -l words (commandline -opc)
     set -l cur (commandline -ct)
@@ -65,7 +66,7 @@ function _quen_complete_quen_2dsample
     set -l word
     # After the terminator every word is a plain argument.
     if contains -- -- $words[2..-1]
-        _quen_files_quen_2dsample '' "$cur"
+        _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz '' "$cur"
         return 0
     end
     if string match -q -- '-?*=*' "$cur"
@@ -83,7 +84,7 @@ function _quen_complete_quen_2dsample
         else
             set word (string sub -s 2 -- "$option")
         end
-        set -l best (_quen_best_quen_2dsample "$word" $names)
+        set -l best (_quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word" $names)
         if test (count $best) -eq 1
             set kind $kinds[$owners[$best[1]]]
         end
@@ -96,14 +97,14 @@ function _quen_complete_quen_2dsample
                     end
                 end
             else if test "$kind" = f
-                _quen_files_quen_2dsample "$lead" "$value"
+                _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz "$lead" "$value"
             end
             return 0
         end
     end
     if not string match -q -- '-*' "$cur"
         if test $positional -eq 1
-            _quen_files_quen_2dsample '' "$cur"
+            _quen_files_it_27s_20_24_28x_29_20_60y_60_5cz '' "$cur"
             return 0
         end
         if test -n "$cur"
@@ -126,7 +127,7 @@ function _quen_complete_quen_2dsample
         end
     end
     if test (count $found) -eq 0
-        for i in (_quen_best_quen_2dsample "$word" $names)
+        for i in (_quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word" $names)
             set -a found "$form$names[$i]"
         end
     end
@@ -135,4 +136,4 @@ function _quen_complete_quen_2dsample
     end
 end
 
-complete -c 'quen-sample' -f -k -a '(_quen_complete_quen_2dsample)'
+complete -c 'it\'s $(x) `y`\\z' -f -k -a '(_quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz)'

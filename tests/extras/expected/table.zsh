@@ -1,11 +1,11 @@
-# Completion of 'quen-sample' options: names, --no- forms, allowed values, files,
+# Completion of 'it'\''s $(x) `y`\z' options: names, --no- forms, allowed values, files,
 # and abbreviations of every part of a name (--l-f gives --log-file).
 # Load it after compinit.
 
 # Indices in `names` of the best-scoring names for the typed name $1: two
 # points for an equal part, one for a part it begins, none unless every part
 # matches and both have as many parts. Sets `best`, declared by the caller.
-_quen_best_quen_2dsample() {
+_quen_best_it_27s_20_24_28x_29_20_60y_60_5cz() {
     emulate -L zsh
     local rest=$1 score top=0 i j
     local -a typed parts
@@ -48,14 +48,15 @@ _quen_best_quen_2dsample() {
 # The candidates for the word under the cursor, into `reply`, and how to
 # offer them, into `REPLY`: "words" are matched against the word, "expand"
 # replaces it, "files" asks for file names (behind the text `lead`).
-_quen_candidates_quen_2dsample() {
+_quen_candidates_it_27s_20_24_28x_29_20_60y_60_5cz() {
     emulate -L zsh
-    local -a names=('log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files')
-    local -a owners=(1 2 3 4 5 5 5 5 6 7 8 8 9 9 10)
-    local -a kinds=(f v v x b n v b f f)
+    local -a names=('log-file' 'log-format' 'level' 'ratio' 'verbose' 'no-verbose' 'chatty' 'no-chatty' 'version' 'mode' 'dry-run' 'no-dry-run' 'output' 'out' 'files' 'a$(touch${IFS}marker)' 'b`touch marker`' 'c'\''q'\''"d"' 'no-c'\''q'\''"d"' 'd;e|f&g' '@ID@' '@DATA@')
+    local -a owners=(1 2 3 4 5 5 5 5 6 7 8 8 9 9 10 11 12 13 13 14 15 16)
+    local -a kinds=(f v v x b n v b f f n f b v n x)
     local -a values_2=('plain' 'json' 'json-lines')
     local -a values_3=('1' '2')
     local -a values_7=('fast' 'slow' 'safe mode')
+    local -a values_14=('it'\''s' 'back\slash' '$HOME' '*')
     local positional=1
     local cur=${words[CURRENT]} word option='' value='' next='' kind='' form=-- i ref
     local -a best
@@ -78,7 +79,7 @@ _quen_candidates_quen_2dsample() {
         else
             word=${option:1}
         fi
-        _quen_best_quen_2dsample "$word"
+        _quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word"
         if (( ${#best} == 1 )); then
             kind=${kinds[owners[best[1]]]}
         fi
@@ -119,7 +120,7 @@ _quen_candidates_quen_2dsample() {
         fi
     done
     if (( ${#reply} == 0 )); then
-        _quen_best_quen_2dsample "$word"
+        _quen_best_it_27s_20_24_28x_29_20_60y_60_5cz "$word"
         for i in $best; do
             reply+=("$form${names[i]}")
         done
@@ -128,11 +129,11 @@ _quen_candidates_quen_2dsample() {
     return 0
 }
 
-_quen_complete_quen_2dsample() {
+_quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz() {
     emulate -L zsh
     local -a reply
     local REPLY lead
-    _quen_candidates_quen_2dsample
+    _quen_candidates_it_27s_20_24_28x_29_20_60y_60_5cz
     case $REPLY in
     (files)
         if [[ -n $lead ]]; then
@@ -149,4 +150,4 @@ _quen_complete_quen_2dsample() {
     esac
 }
 
-compdef _quen_complete_quen_2dsample 'quen-sample'
+compdef _quen_complete_it_27s_20_24_28x_29_20_60y_60_5cz 'it'\''s $(x) `y`\z'
