@@ -1,40 +1,11 @@
 #include "line_claims.h"
 
-#include <chrono>
-#include <exception>
-#include <functional>
 #include <limits>
-#include <random>
 #include <stdexcept>
 
+#include "values/text_hash.h"
+
 namespace quenopt {
-
-namespace {
-
-// Spreads the bits of a word over the whole word.
-std::uint64_t scramble(std::uint64_t x) {
-    x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9ULL;
-    x = (x ^ (x >> 27)) * 0x94d049bb133111ebULL;
-    return x ^ (x >> 31);
-}
-
-// A key nobody can know in advance: random where the system has a source,
-// the clock and an address in any case.
-std::uint64_t makeKey() {
-    std::uint64_t key = static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-    key ^= static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&key));
-    try {
-        std::random_device device;
-        key ^= (static_cast<std::uint64_t>(device()) << 32) ^ device();
-    } catch (std::exception const&) {
-        // No random source: the clock and the address remain.
-    }
-    return scramble(key);
-}
-
-}  // namespace
-
-LineClaims::LineClaims() : m_key(makeKey()) {}
 
 void LineClaims::reserve(std::size_t count) {
     std::size_t slots = 16;
@@ -79,9 +50,8 @@ void LineClaims::claim(std::string_view text, std::uint64_t hash, int line) {
     m_slots[at] = Slot{static_cast<std::uint32_t>(hash >> 32), static_cast<std::uint32_t>(m_lines.size())};
 }
 
-std::uint64_t LineClaims::hashOf(std::string_view text) const {
-    return scramble(std::hash<std::string_view>()(text) ^ m_key);
-}
+// The library's keyed hash, so that no table can be made to collide on purpose.
+std::uint64_t LineClaims::hashOf(std::string_view text) { return quen_3_1::hashText(text); }
 
 std::string_view LineClaims::textOf(std::size_t claim) const {
     std::size_t const begin = claim == 0 ? 0 : m_ends[claim - 1];

@@ -17,11 +17,10 @@ namespace quenopt {
 // thousand options stays small enough for the caches.
 class LineClaims {
 public:
-    LineClaims();
     // Room for `count` claims without growing.
     void reserve(std::size_t count);
     // The hash that the calls below take with `text`.
-    std::uint64_t hashOf(std::string_view text) const;
+    static std::uint64_t hashOf(std::string_view text);
     // Starts loading the slot where a lookup of the hash begins: lookups of
     // several texts announced first wait for memory once, not once each.
     void prefetch(std::uint64_t hash) const;
@@ -41,7 +40,6 @@ private:
     void place(std::uint64_t hash, std::uint32_t claim);
     void grow(std::size_t slots);
 
-    std::uint64_t m_key;  // mixed into every hash, so that no table can be made to collide on purpose
     std::vector<Slot> m_slots;
     std::string m_texts;              // the claimed texts, end to end
     std::vector<std::size_t> m_ends;  // by claim: where its text ends in m_texts
