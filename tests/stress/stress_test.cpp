@@ -4,7 +4,9 @@
 // Linear growth gives about 10x for ten times the arguments; the bound of 20x
 // leaves room for caches and for other processes on the machine, and still
 // catches anything quadratic. The huge texts are compared with a quarter of
-// their size (4x, bound 8x): a tenth would fit in the processor's caches.
+// their size (4x, bound 10x; quadratic work would take 16x): a tenth would fit
+// in the processor's caches. The larger input's fresh pages cost more than the
+// smaller one's reused ones, so linear work measures 4x to 8x here.
 // Prints the figures; fails when a ratio or a memory bound is exceeded.
 #include <quen_3_1/quen.h>
 
@@ -13,9 +15,9 @@
 #endif
 
 #include <algorithm>
-#include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 #include <functional>
 #include <string>
@@ -27,17 +29,28 @@ namespace {
 
 int g_failures = 0;
 
+// The processor time of `body` (this program runs on one thread), not the
+// time on the wall: other processes on the machine stretch a long run's wall
+// time more than a short one's, the processor time of both alike.
 double seconds(std::function<void()> const& body) {
-    auto const start = std::chrono::steady_clock::now();
+    std::clock_t const start = std::clock();
     body();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-// The best of `tries` runs: the least disturbed by the other processes.
-double bestOf(int tries, std::function<void()> const& body) {
-    double best = seconds(body);
+struct Times {
+    double first;
+    double second;
+};
+
+// Two inputs measured in turns, the best of `tries` runs each: the runs least
+// disturbed by other processes, and a slow spell of the machine falls on both
+// inputs instead of on one.
+Times bestInTurns(int tries, std::function<void()> const& first, std::function<void()> const& second) {
+    Times best{seconds(first), seconds(second)};
     for (int i = 1; i < tries; ++i) {
-        best = std::min(best, seconds(body));
+        best.first = std::min(best.first, seconds(first));
+        best.second = std::min(best.second, seconds(second));
     }
     return best;
 }
@@ -140,20 +153,21 @@ void craftedAgainstRandom() {
     std::string const craftedText = asLines(crafted);
     std::string const randomText = asLines(random);
     Host host;
-    std::size_t seen = 0;
-    auto measure = [&](std::vector<std::string> const& texts, std::string const& lines) {
-        return bestOf(3, [&] {
-            std::vector<std::string> arguments = withTerminator(texts);
-            seen = host.commandLine(arguments) + host.optionText(lines);
-        });
+    std::size_t seenCrafted = 0;
+    std::size_t seenRandom = 0;
+    auto measure = [&](std::vector<std::string> const& texts, std::string const& lines, std::size_t& seen) {
+        return [&host, in = &texts, text = &lines, out = &seen] {
+            std::vector<std::string> arguments = withTerminator(*in);
+            *out = host.commandLine(arguments) + host.optionText(*text);
+        };
     };
-    double const tCrafted = measure(crafted, craftedText);
-    bool const allCrafted = seen == 2 * count;
-    double const tRandom = measure(random, randomText);
+    Times const t = bestInTurns(3, measure(crafted, craftedText, seenCrafted), measure(random, randomText, seenRandom));
+    double const tCrafted = t.first;
+    double const tRandom = t.second;
     std::printf("200,000 sixteen-byte arguments (command line + option text, parsed and read back):\n");
     std::printf("  crafted for the former hash %.3f s, random %.3f s, ratio %.2f\n", tCrafted, tRandom,
                 tCrafted / tRandom);
-    check(allCrafted && seen == 2 * count, "every value read back");
+    check(seenCrafted == 2 * count && seenRandom == 2 * count, "every value read back");
     check(tCrafted <= 2.0 * tRandom, "crafted input within 2x of random input");
 }
 
@@ -162,16 +176,20 @@ void argumentCount() {
     std::vector<std::string> const large = quen_test::randomTexts(1000000, 13);
     Host host;
     std::size_t seen = 0;
-    double const tSmall = bestOf(3, [&] {
-        std::vector<std::string> arguments = withTerminator(small);
-        seen = host.commandLine(arguments);
-    });
     long const base = statusKiB("VmRSS");
     resetPeak();
-    double const tLarge = bestOf(3, [&] {
-        std::vector<std::string> arguments = withTerminator(large);
-        seen = host.commandLine(arguments);
-    });
+    Times const t = bestInTurns(
+        3,
+        [&] {
+            std::vector<std::string> arguments = withTerminator(small);
+            seen = host.commandLine(arguments);
+        },
+        [&] {
+            std::vector<std::string> arguments = withTerminator(large);
+            seen = host.commandLine(arguments);
+        });
+    double const tSmall = t.first;
+    double const tLarge = t.second;
     double const peak = peakMiBAbove(base);
     std::printf("arguments: 100,000 in %.3f s, 1,000,000 in %.3f s (ratio %.1f), peak +%.0f MiB\n", tSmall, tLarge,
                 tLarge / tSmall, peak);
@@ -184,16 +202,18 @@ void oneLargeArgument() {
     Host host;
     std::size_t seen = 0;
     std::vector<std::string> small{std::string(25 * mib, 'v')};
-    double const tSmall = bestOf(2, [&] { seen = host.commandLine(small); });
     std::vector<std::string> large{std::string(100 * mib, 'v')};
     long const base = statusKiB("VmRSS");
     resetPeak();
-    double const tLarge = bestOf(2, [&] { seen = host.commandLine(large); });
+    Times const t = bestInTurns(
+        3, [&] { seen = host.commandLine(small); }, [&] { seen = host.commandLine(large); });
+    double const tSmall = t.first;
+    double const tLarge = t.second;
     double const peak = peakMiBAbove(base);
     std::printf("one argument: 25 MiB in %.3f s, 100 MiB in %.3f s (ratio %.1f), peak +%.0f MiB over the input\n",
                 tSmall, tLarge, tLarge / tSmall, peak);
     check(seen == 1, "the argument read back");
-    check(tLarge <= 8.0 * tSmall, "4x the size within 8x the time");
+    check(tLarge <= 10.0 * tSmall, "4x the size within 10x the time");
     check(peak <= 8.0 * 100, "peak memory at most 8x the argument");
 }
 
@@ -211,18 +231,20 @@ void largeOptionText() {
     Host host;
     std::size_t seen = 0;
     std::string const small = textOf(50 * mib);
-    double const tSmall = bestOf(2, [&] { seen = host.optionText(small); });
     std::string const large = textOf(200 * mib);
     long const base = statusKiB("VmRSS");
     resetPeak();
-    double const tLarge = bestOf(2, [&] { seen = host.optionText(large); });
+    Times const t = bestInTurns(
+        3, [&] { seen = host.optionText(small); }, [&] { seen = host.optionText(large); });
+    double const tSmall = t.first;
+    double const tLarge = t.second;
     double const peak = peakMiBAbove(base);
     std::printf(
         "option text of 1,000-byte lines: 50 MiB in %.3f s, 200 MiB in %.3f s (ratio %.1f), "
         "peak +%.0f MiB over the text\n",
         tSmall, tLarge, tLarge / tSmall, peak);
     check(seen == large.size() / line.size(), "every line read back");
-    check(tLarge <= 8.0 * tSmall, "4x the text within 8x the time");
+    check(tLarge <= 10.0 * tSmall, "4x the text within 10x the time");
     check(peak <= 6.0 * 200, "peak memory at most 6x the text");
 }
 
