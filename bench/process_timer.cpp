@@ -1,8 +1,9 @@
 // Starts programs in turns, many times, and reports for each the wall-clock
 // time from spawn to exit, the processor time the kernel charged to the
-// process (user and system) and its page faults, with the difference of each
-// program's medians to those of the last one. Turns rotate, so that a slow
-// spell of a shared machine falls on all alike. Processor time and faults
+// process (user and system) and its page faults, and the median of the
+// differences to the last program's run of the same turn. Turns rotate, and
+// runs of one turn follow each other, so that a slow spell of a shared
+// machine falls on both runs of a pair alike. Processor time and faults
 // come from the child's own resource usage (wait4), so the time the machine
 // spends on other work while the child waits to run is not in them.
 //   quen_process_timer RUNS PROGRAM... -- [ARGUMENT...]
@@ -62,6 +63,15 @@ Summary summarise(std::vector<double> values) {
     return Summary{values[values.size() / 2], values.front(), values[values.size() * 9 / 10]};
 }
 
+// The median of the differences between the runs of one turn.
+double pairedDifference(std::vector<double> const& a, std::vector<double> const& b) {
+    std::vector<double> differences;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        differences.push_back(a[i] - b[i]);
+    }
+    return summarise(differences).median;
+}
+
 struct Program {
     std::vector<char*> argv;
     std::vector<double> wall;
@@ -102,18 +112,18 @@ int main(int argc, char** argv) {
             program.faults.push_back(sample.faults);
         }
     }
-    std::printf("%d runs each; medians, and lowest to 90th percentile\n\n", runs);
+    std::printf("%d runs each; medians, lowest to 90th percentile, and the median difference to the last\n", runs);
+    std::printf("program's run of the same turn\n\n");
     std::printf("| program | wall us | wall range | CPU us | CPU range | page faults | wall - last | CPU - last |\n");
     std::printf("|---|---:|---:|---:|---:|---:|---:|---:|\n");
-    Summary const lastWall = summarise(programs.back().wall);
-    Summary const lastCpu = summarise(programs.back().cpu);
+    Program const& last = programs.back();
     for (Program const& program : programs) {
         Summary const wall = summarise(program.wall);
         Summary const cpu = summarise(program.cpu);
         Summary const faults = summarise(program.faults);
-        std::printf("| %s | %.1f | %.0f-%.0f | %.0f | %.0f-%.0f | %.0f | %.1f | %.0f |\n", program.argv[0], wall.median,
-                    wall.low, wall.high, cpu.median, cpu.low, cpu.high, faults.median, wall.median - lastWall.median,
-                    cpu.median - lastCpu.median);
+        std::printf("| %s | %.1f | %.0f-%.0f | %.0f | %.0f-%.0f | %.0f | %.1f | %.1f |\n", program.argv[0], wall.median,
+                    wall.low, wall.high, cpu.median, cpu.low, cpu.high, faults.median,
+                    pairedDifference(program.wall, last.wall), pairedDifference(program.cpu, last.cpu));
     }
     return 0;
 }
