@@ -1,7 +1,5 @@
 #include "frontend/trace.h"
 
-#include <memory>
-
 #include "frontend/ustring.h"
 
 namespace quen_3_1 {
@@ -21,23 +19,11 @@ TraceSwitch& TraceSwitch::operator=(bool on) {
 
 namespace {
 
-// Created on first use; at exit the stream goes before its buffer.
+// Created on first use. Without a buffer of its own, the library defines no
+// stream buffer class, whose table of virtual functions would have the
+// dynamic linker look up every member of the standard one at load.
 struct DiscardingStream {
-    std::unique_ptr<basic_nullbuf<char>> buffer;
-    std::unique_ptr<std::ostream> stream;
-
-    ~DiscardingStream() {
-        stream.reset();
-        buffer.reset();
-    }
-
-    std::ostream& get() {
-        if (!stream) {
-            buffer = std::make_unique<basic_nullbuf<char>>();
-            stream = std::make_unique<std::ostream>(buffer.get());
-        }
-        return *stream;
-    }
+    std::ostream stream{nullptr};
 };
 
 }  // namespace
@@ -47,7 +33,7 @@ std::ostream& quenLog() {
         return ORNA_2_10::strings::tv2::console();
     }
     static DiscardingStream discarding;
-    return discarding.get();
+    return discarding.stream;
 }
 
 }  // namespace internal

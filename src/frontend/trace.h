@@ -3,7 +3,6 @@
 
 #include <atomic>
 #include <ostream>
-#include <streambuf>
 
 namespace quen_3_1 {
 namespace internal {
@@ -33,14 +32,8 @@ private:
 // makes another thread's parse print its arguments.
 extern thread_local TraceSwitch quenLogEnabled;
 
-// A stream buffer whose writes all fail, so a stream over it discards output.
-template <class CharT>
-class basic_nullbuf : public std::basic_streambuf<CharT> {
-public:
-    ~basic_nullbuf() override = default;
-};
-
-// The trace stream: standard output while tracing, a discarding stream otherwise.
+// The trace stream: standard output while tracing, otherwise a stream without
+// a buffer, which fails and discards every write.
 std::ostream& quenLog();
 
 // Writes one trace line made of `parts`, ended by std::endl. While tracing is

@@ -118,6 +118,20 @@ bool extractInteger(char const* text, unsigned base, V& value) {
 }
 
 #if QUEN_CLASSIC_EXTRACTION
+// True while no locale has been built in this process, so that the global
+// one is still the classic locale. Asking the locale itself would build the
+// classic locale with all its facets: in a host that never uses one, that is
+// most of what the first number it converts costs, page faults included.
+// The standard library builds the classic locale before any other, and
+// building it numbers the character classification facet, whose number is
+// zero until then (the facet's id holds nothing but that number, written
+// atomically once threads exist).
+bool noLocaleBuilt() {
+    static_assert(sizeof(std::locale::id) == sizeof(std::size_t), "a facet id is its number");
+    auto const* const number = reinterpret_cast<std::size_t const*>(&std::ctype<char>::id);
+    return __atomic_load_n(number, __ATOMIC_ACQUIRE) == 0;
+}
+
 locale_t classicCLocale() {
     static locale_t const locale = newlocale(LC_ALL_MASK, "C", locale_t());
     return locale;
@@ -197,7 +211,8 @@ bool convertFloat(std::string const& collected, double& value) {
 
 ExtractionSupport classicExtraction() {
 #if QUEN_CLASSIC_EXTRACTION
-    return std::locale() == std::locale::classic() ? ExtractionSupport::Classic : ExtractionSupport::StreamOnly;
+    return noLocaleBuilt() || std::locale() == std::locale::classic() ? ExtractionSupport::Classic
+                                                                      : ExtractionSupport::StreamOnly;
 #else
     return ExtractionSupport::StreamOnly;
 #endif
