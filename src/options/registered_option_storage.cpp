@@ -1,26 +1,41 @@
 #include "options/registered_option_storage.h"
 
+#include <stdexcept>
 #include <string_view>
 
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
+#include "options/messages.h"
 #include "values/separator_split.h"
 
 namespace quen_3_1 {
 
+namespace {
+
+// A host's text; a null one is refused as a string made of it always was.
+char const* required(char const* text) {
+    if (text == nullptr) {
+        throw std::logic_error(option_messages::nullText());
+    }
+    return text;
+}
+
+}  // namespace
+
 IOption* RegisteredOptionStorage::option(char const* names, char const* description, kel_variant_type_t type,
                                          char const* group) {
-    std::pair<std::string, std::string> const& groupEntry = recordGroup(group);
+    std::pair<std::string, std::string> const& groupEntry = recordGroup(required(group));
     m_invalidOption.setStatus(3);
     std::vector<std::string> list;
-    split(names, list);
+    splitAtSeparator(required(names), ',', list);
     if (validateName(list) == 1) {
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
     std::size_t const index = m_options.size();
-    m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, description, type, m_garbage);
-    OptionDescription& stored = m_options.back();
+    HeldText held = HeldText::viewing(TextArena::copied(m_texts.copy(required(description))));
+    OptionDescription& stored =
+        m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
         m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool);
     }
@@ -41,16 +56,15 @@ void RegisteredOptionStorage::positionalSet(std::size_t option) {
 }
 
 // The first title given to a group wins; later ones are ignored.
-std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string const& group) {
+std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string_view group) {
     std::size_t const colon = group.find(':');
-    std::string_view const name = std::string_view(group).substr(0, colon);
+    std::string_view const name = group.substr(0, colon);
     for (auto const& entry : m_groups) {
         if (entry.first == name) {
             return entry;
         }
     }
-    std::string_view const title =
-        colon == std::string::npos ? std::string_view() : std::string_view(group).substr(colon + 1);
+    std::string_view const title = colon == std::string_view::npos ? std::string_view() : group.substr(colon + 1);
     m_groups.emplace_back(std::string(name), std::string(title));
     return m_groups.back();
 }

@@ -1,13 +1,15 @@
 #ifndef QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 #define QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
-#include <deque>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "options/name_index.h"
 #include "options/option_description.h"
+#include "options/stable_list.h"
+#include "values/text_arena.h"
 
 namespace quen_3_1 {
 
@@ -49,9 +51,12 @@ public:
     OptionDescription const& invalidOption() const { return m_invalidOption; }
 
 private:
-    std::pair<std::string, std::string> const& recordGroup(std::string const& group);
+    std::pair<std::string, std::string> const& recordGroup(std::string_view group);
 
-    std::deque<OptionDescription> m_options;
+    // The descriptions' texts: one block for many options instead of one
+    // allocation each. Declared first, so that it outlives the options.
+    TextArena m_texts;
+    StableList<OptionDescription> m_options;
     std::vector<std::pair<std::string, std::string>> m_groups;
     Garbage* m_garbage = nullptr;
     OptionDescription m_invalidOption;
