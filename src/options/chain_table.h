@@ -28,30 +28,38 @@ public:
         std::size_t tail;
     };
 
-    // The chain of `text`, or null when no candidate has that text.
+    // The chain of `text`, or null when no candidate has that text. `hash`
+    // is hashDeclaredName(text), for a caller that hashes a text once.
     template <class TextOf>
-    Chain const* find(std::string_view text, TextOf const& textOf) const {
+    Chain const* find(std::string_view text, std::uint64_t hash, TextOf const& textOf) const {
         if (m_slots.empty()) {
             return nullptr;
         }
-        Slot const& slot = m_slots[probe(text, hashDeclaredName(text), textOf)];
+        Slot const& slot = m_slots[probe(text, hash, textOf)];
         return slot.entry == 0 ? nullptr : &m_entries[slot.entry - 1].chain;
+    }
+    template <class TextOf>
+    Chain const* find(std::string_view text, TextOf const& textOf) const {
+        return find(text, hashDeclaredName(text), textOf);
     }
 
     // The chain of `text`, an empty one (head npos) when it is new; the
     // caller links a candidate into a new chain before the next call.
     template <class TextOf>
-    Chain& findOrAdd(std::string_view text, TextOf const& textOf) {
+    Chain& findOrAdd(std::string_view text, std::uint64_t hash, TextOf const& textOf) {
         if (2 * (m_entries.size() + 1) > m_slots.size()) {
             grow();
         }
-        std::uint64_t const hash = hashDeclaredName(text);
         Slot& slot = m_slots[probe(text, hash, textOf)];
         if (slot.entry == 0) {
             m_entries.push_back(Entry{hash, Chain{npos, npos}});
             slot = Slot{tagOf(hash), static_cast<std::uint32_t>(m_entries.size())};
         }
         return m_entries[slot.entry - 1].chain;
+    }
+    template <class TextOf>
+    Chain& findOrAdd(std::string_view text, TextOf const& textOf) {
+        return findOrAdd(text, hashDeclaredName(text), textOf);
     }
 
 private:

@@ -1,30 +1,39 @@
 #include "options/name_index.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace quen_3_1 {
 
-void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
-    insert(Candidate{option, nameIndex, false, name, 0, 0, npos});
+void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean,
+                    std::uint64_t hash) {
+    m_candidates.emplace_back(option, nameIndex, false, name, std::size_t{1}, name.size(), npos);
+    insert(hash);
     if (boolean) {
-        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0, npos});
+        std::string negated;
+        negated.reserve(3 + name.size());
+        negated.append("no-").append(name);
+        Candidate const& added = m_candidates.emplace_back(option, nameIndex, true, std::move(negated), std::size_t{1},
+                                                           std::size_t{0}, npos);
+        insert(hashOf(added.text));
     }
 }
 
-void NameIndex::insert(Candidate candidate) {
+void NameIndex::insert(std::uint64_t hash) {
+    std::size_t const id = m_candidates.size() - 1;
+    Candidate& candidate = m_candidates[id];
     std::string const& text = candidate.text;
-    candidate.parts = 1;
-    candidate.firstEnd = text.size();
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '-') {
-            candidate.firstEnd = candidate.parts == 1 ? at : candidate.firstEnd;
-            ++candidate.parts;
-        }
+    char const* const end = text.data() + text.size();
+    auto nextHyphen = [end](char const* from) {
+        return static_cast<char const*>(std::memchr(from, '-', static_cast<std::size_t>(end - from)));
+    };
+    char const* hyphen = nextHyphen(text.data());
+    candidate.firstEnd = hyphen == nullptr ? text.size() : static_cast<std::size_t>(hyphen - text.data());
+    for (; hyphen != nullptr; hyphen = nextHyphen(hyphen + 1)) {
+        ++candidate.parts;
     }
-    std::size_t const id = m_candidates.size();
-    Candidate const& stored = m_candidates.emplace_back(std::move(candidate));
-    link(m_named.findOrAdd(stored.text, textOf()), id,
+    link(m_named.findOrAdd(text, hash, textOf()), id,
          [this](std::size_t at) -> std::size_t& { return m_candidates[at].nextSame; });
 }
 
@@ -83,8 +92,8 @@ void NameIndex::link(Chain& chain, std::size_t id, Next const& next) const {
     next(at) = id;
 }
 
-std::size_t NameIndex::firstNamed(std::string_view name) const {
-    Chain const* const chain = m_named.find(name, textOf());
+std::size_t NameIndex::firstNamed(std::string_view name, std::uint64_t hash) const {
+    Chain const* const chain = m_named.find(name, hash, textOf());
     return chain == nullptr ? npos : chain->head;
 }
 

@@ -2,6 +2,7 @@
 #define QUEN_3_1_OPTIONS_NAME_INDEX_H
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "options/chain_table.h"
 #include "options/stable_list.h"
+#include "values/text_hash.h"
 
 namespace quen_3_1 {
 
@@ -34,12 +36,22 @@ public:
         std::size_t nextSame;  // the next candidate with the same text; npos after the last
     };
 
+    // The hash the index files `name` under; a caller that looks a name up
+    // and then adds it hashes it once.
+    static std::uint64_t hashOf(std::string_view name) { return hashDeclaredName(name); }
+
     // Adds the option's name at `nameIndex` and, for a boolean, its "no-" form.
-    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean);
+    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
+        add(option, nameIndex, name, boolean, hashOf(name));
+    }
+    // The same with the name's hashOf.
+    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean, std::uint64_t hash);
 
     // The first candidate named exactly `name` (follow nextNamed for the
     // others); npos when there is none.
-    std::size_t firstNamed(std::string_view name) const;
+    std::size_t firstNamed(std::string_view name) const { return firstNamed(name, hashOf(name)); }
+    // The same with the name's hashOf.
+    std::size_t firstNamed(std::string_view name, std::uint64_t hash) const;
     // The candidate after `id` with the same name; npos after the last.
     std::size_t nextNamed(std::size_t id) const { return m_candidates[id].nextSame; }
     // Appends the candidates with `parts` parts whose first part begins with
@@ -53,7 +65,8 @@ public:
 private:
     using Chain = ChainTable::Chain;
 
-    void insert(Candidate candidate);
+    // Files the candidate just appended under its text.
+    void insert(std::uint64_t hash);
     void linkShapes() const;
     bool before(std::size_t a, std::size_t b) const;
     // The text of a candidate, as the chain table reads its keys.

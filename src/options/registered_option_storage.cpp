@@ -28,7 +28,8 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
     m_invalidOption.setStatus(3);
     std::vector<std::string> list;
     splitAtSeparator(required(names), ',', list);
-    if (validateName(list) == 1) {
+    NameHashes hashes{};
+    if (validateName(list, hashes) == 1) {
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
@@ -37,7 +38,7 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
     OptionDescription& stored =
         m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
-        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool);
+        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool, hashes[i]);
     }
     stored.linkTo(this, index);
     return &stored;
@@ -75,11 +76,20 @@ int RegisteredOptionStorage::split(std::string const& text, std::vector<std::str
 }
 
 int RegisteredOptionStorage::validateName(std::vector<std::string> const& names) {
-    if (names.size() > 3 || (names.size() == 3 && names[2].size() > 2)) {
+    NameHashes hashes{};
+    return validateName(names, hashes);
+}
+
+// Hashes each name once, for the lookup here and the registration after it.
+int RegisteredOptionStorage::validateName(std::vector<std::string> const& names, NameHashes& hashes) {
+    if (names.size() > hashes.size() || (names.size() == 3 && names[2].size() > 2)) {
         return 1;
     }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        hashes[i] = NameIndex::hashOf(names[i]);
+    }
     unsigned long index = 0;
-    if (findOption(names, index) == 0) {
+    if (findOption(names, hashes, index) == 0) {
         internal::trace("An option with the same name is already registered: ", names[0]);
         ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
         return 1;
@@ -91,13 +101,29 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
 // first one is the option the scan would meet first.
 int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
     for (std::string const& name : names) {
-        std::size_t const found = m_names.firstNamed(name);
-        if (found != NameIndex::npos) {
-            index = m_names.candidate(found).option;
+        if (found(m_names.firstNamed(name), index)) {
             return 0;
         }
     }
     return 1;
+}
+
+int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, NameHashes const& hashes,
+                                        unsigned long& index) const {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (found(m_names.firstNamed(names[i], hashes[i]), index)) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+bool RegisteredOptionStorage::found(std::size_t candidate, unsigned long& index) const {
+    if (candidate == NameIndex::npos) {
+        return false;
+    }
+    index = m_names.candidate(candidate).option;
+    return true;
 }
 
 }  // namespace quen_3_1

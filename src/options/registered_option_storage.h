@@ -1,6 +1,8 @@
 #ifndef QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 #define QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -51,7 +53,14 @@ public:
     OptionDescription const& invalidOption() const { return m_invalidOption; }
 
 private:
+    // The hashes of a name list that may be registered (at most three names).
+    using NameHashes = std::array<std::uint64_t, 3>;
+
     std::pair<std::string, std::string> const& recordGroup(std::string_view group);
+    int validateName(std::vector<std::string> const& names, NameHashes& hashes);
+    int findOption(std::vector<std::string> const& names, NameHashes const& hashes, unsigned long& index) const;
+    // True with `index` set to the option of `candidate`, unless it is npos.
+    bool found(std::size_t candidate, unsigned long& index) const;
 
     // The descriptions' texts: one block for many options instead of one
     // allocation each. Declared first, so that it outlives the options.

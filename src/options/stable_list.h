@@ -35,7 +35,7 @@ public:
             addBlock();
         }
         T* const at = m_blocks[m_size / kPerBlock] + m_size % kPerBlock;
-        ::new (static_cast<void*>(at)) T(std::forward<Args>(args)...);
+        ::new (static_cast<void*>(at)) T{std::forward<Args>(args)...};
         ++m_size;
         return *at;
     }

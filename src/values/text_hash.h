@@ -122,8 +122,7 @@ inline std::uint64_t finalise(std::uint64_t x) {
 // eight bytes do where SipHash's rounds cost several times as much. Tables
 // into which typed text is inserted (the keeper of values and texts, a
 // result's names) keep hashText, whose collisions cannot be computed.
-inline std::uint64_t hashDeclaredName(std::string_view text) {
-    HashKey const& key = processHashKey();
+inline std::uint64_t declaredNameHash(HashKey const& key, std::string_view text) {
     char const* const p = text.data();
     std::size_t const n = text.size();
     std::uint64_t h = key.k0 ^ (static_cast<std::uint64_t>(n) * 0x9e3779b97f4a7c15ULL);
@@ -143,6 +142,9 @@ inline std::uint64_t hashDeclaredName(std::string_view text) {
     }
     return detail::finalise((h ^ last) * 0x9e3779b97f4a7c15ULL ^ key.k1);
 }
+
+// The same with the key of this process.
+inline std::uint64_t hashDeclaredName(std::string_view text) { return declaredNameHash(processHashKey(), text); }
 
 // The same as a hash function object for the standard unordered containers.
 struct TextHash {
