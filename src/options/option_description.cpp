@@ -10,8 +10,9 @@ OptionDescription::OptionDescription()
     : OptionDescription(std::vector<std::string>(), std::string(), std::string(), std::string(), tarvo2::vt_empty,
                         nullptr) {}
 
-OptionDescription::OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
-                                     std::string description, kel_variant_type_t type, Garbage* garbage)
+OptionDescription::OptionDescription(std::vector<std::string> names, std::string const& group,
+                                     std::string const& groupTitle, std::string description, kel_variant_type_t type,
+                                     Garbage* garbage)
     : OptionDescription(std::move(names), group, groupTitle, HeldText(std::move(description)), type, garbage) {}
 
 OptionDescription::OptionDescription(std::vector<std::string>&& names, std::string const& group,

@@ -21,7 +21,7 @@ class OptionDescription final : public IOption {
 public:
     // The registry's placeholder: no names, kind vt_empty, no keeper.
     OptionDescription();
-    OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
+    OptionDescription(std::vector<std::string> names, std::string const& group, std::string const& groupTitle,
                       std::string description, kel_variant_type_t type, Garbage* garbage);
     // The registry's: the description views text the registry keeps.
     OptionDescription(std::vector<std::string>&& names, std::string const& group, std::string const& groupTitle,
