@@ -53,12 +53,18 @@ private:
     // Room for the blocks of a few dozen options before the list of blocks grows.
     static constexpr std::size_t kFirstBlocks = 8;
 
+    // A failed allocation leaves the list as it was.
     void addBlock() {
         if (m_blocks.empty()) {
             m_blocks.reserve(kFirstBlocks);
         }
-        m_blocks.push_back(nullptr);
-        m_blocks.back() = static_cast<T*>(::operator new(sizeof(T) * kPerBlock));
+        auto* const block = static_cast<T*>(::operator new(sizeof(T) * kPerBlock));
+        try {
+            m_blocks.push_back(block);
+        } catch (...) {
+            ::operator delete(block);
+            throw;
+        }
     }
 
     std::vector<T*> m_blocks;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,16 @@ struct Counted {
     static int live;
 };
 int Counted::live = 0;
+
+// Refuses to be built from a negative number.
+struct Checked {
+    explicit Checked(int v) : value(v) {
+        if (v < 0) {
+            throw std::invalid_argument("negative");
+        }
+    }
+    int value;
+};
 
 // Larger than a block: one element per block.
 struct Large {
@@ -73,4 +84,13 @@ TEST(StableList, ElementLargerThanABlockGetsOneOfItsOwn) {
     for (std::size_t i = 0; i < 20; ++i) {
         EXPECT_EQ(list[i].value, i);
     }
+}
+
+TEST(StableList, FailedConstructionLeavesTheListAsItWas) {
+    StableList<Checked> list;
+    list.emplace_back(1);
+    EXPECT_THROW(list.emplace_back(-1), std::invalid_argument);
+    ASSERT_EQ(list.size(), 1u);
+    EXPECT_EQ(list.emplace_back(2).value, 2);
+    EXPECT_EQ(list[1].value, 2);
 }
