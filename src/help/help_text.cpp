@@ -82,7 +82,7 @@ std::string describeOption(OptionDescription const& option) {
         prefix = head + "\n";
         head.clear();
     }
-    return prefix + paragraphString(option.description(), head, kDescriptionColumn, kDescriptionWidth);
+    return prefix + paragraphString(std::string(option.description()), head, kDescriptionColumn, kDescriptionWidth);
 }
 
 }  // namespace

@@ -17,7 +17,8 @@ namespace quen_3_1 {
 // reads one short run of slots, and a hundred thousand names need 2 MiB of
 // slots, where slots holding the chains took three times that and left the
 // caches much sooner. The texts are not copied: `textOf(id)` gives the text
-// of the candidate `id`.
+// of the candidate `id`. Only declared names are ever added, so the table
+// hashes with hashDeclaredName.
 class ChainTable {
 public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
@@ -27,30 +28,38 @@ public:
         std::size_t tail;
     };
 
-    // The chain of `text`, or null when no candidate has that text.
+    // The chain of `text`, or null when no candidate has that text. `hash`
+    // is hashDeclaredName(text), for a caller that hashes a text once.
     template <class TextOf>
-    Chain const* find(std::string_view text, TextOf const& textOf) const {
+    Chain const* find(std::string_view text, std::uint64_t hash, TextOf const& textOf) const {
         if (m_slots.empty()) {
             return nullptr;
         }
-        Slot const& slot = m_slots[probe(text, hashText(text), textOf)];
+        Slot const& slot = m_slots[probe(text, hash, textOf)];
         return slot.entry == 0 ? nullptr : &m_entries[slot.entry - 1].chain;
+    }
+    template <class TextOf>
+    Chain const* find(std::string_view text, TextOf const& textOf) const {
+        return find(text, hashDeclaredName(text), textOf);
     }
 
     // The chain of `text`, an empty one (head npos) when it is new; the
     // caller links a candidate into a new chain before the next call.
     template <class TextOf>
-    Chain& findOrAdd(std::string_view text, TextOf const& textOf) {
+    Chain& findOrAdd(std::string_view text, std::uint64_t hash, TextOf const& textOf) {
         if (2 * (m_entries.size() + 1) > m_slots.size()) {
             grow();
         }
-        std::uint64_t const hash = hashText(text);
         Slot& slot = m_slots[probe(text, hash, textOf)];
         if (slot.entry == 0) {
             m_entries.push_back(Entry{hash, Chain{npos, npos}});
             slot = Slot{tagOf(hash), static_cast<std::uint32_t>(m_entries.size())};
         }
         return m_entries[slot.entry - 1].chain;
+    }
+    template <class TextOf>
+    Chain& findOrAdd(std::string_view text, TextOf const& textOf) {
+        return findOrAdd(text, hashDeclaredName(text), textOf);
     }
 
 private:
@@ -64,6 +73,9 @@ private:
         std::uint64_t hash;  // kept for growing without reading the texts
         Chain chain;
     };
+
+    // Room for the names of a few dozen options before the first growth.
+    static constexpr std::size_t kFirstSlots = 64;
 
     static std::uint32_t tagOf(std::uint64_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
 
@@ -81,8 +93,11 @@ private:
     }
 
     // Doubles the table; the entries are placed again by their kept hashes.
+    // The entries get room for as many chains as the slots take, so that
+    // they grow with the slots instead of one doubling at a time.
     void grow() {
-        m_slots.assign(m_slots.empty() ? 16 : 2 * m_slots.size(), Slot());
+        m_slots.assign(m_slots.empty() ? kFirstSlots : 2 * m_slots.size(), Slot());
+        m_entries.reserve(m_slots.size() / 2);
         std::size_t const mask = m_slots.size() - 1;
         for (std::size_t index = 0; index < m_entries.size(); ++index) {
             std::uint64_t const hash = m_entries[index].hash;

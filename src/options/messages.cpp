@@ -23,5 +23,7 @@ std::string ambiguousValue(std::string const& option, std::string const& allowed
     return "Ambiguous value for option '" + option + "'. Possible values follows: " + allowedList;
 }
 
+char const* nullText() { return "basic_string: construction from null is not valid"; }
+
 }  // namespace option_messages
 }  // namespace quen_3_1

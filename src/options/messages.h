@@ -3,7 +3,7 @@
 
 #include <string>
 
-// The fixed texts of option value conversion and validation, each written once here.
+// The fixed texts of option registration, value conversion and validation, each written once here.
 namespace quen_3_1 {
 namespace option_messages {
 
@@ -19,6 +19,9 @@ char const* typeNameText();
 std::string cannotParse(std::string const& option, std::string const& text, std::string const& typeName);
 std::string notAllowed(std::string const& option, std::string const& text, std::string const& allowedList);
 std::string ambiguousValue(std::string const& option, std::string const& allowedList);
+
+// What a registration given a null text throws, worded as the standard library words it.
+char const* nullText();
 
 }  // namespace option_messages
 }  // namespace quen_3_1

@@ -1,24 +1,40 @@
 #include "options/name_index.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace quen_3_1 {
 
-void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
-    insert(Candidate{option, nameIndex, false, name, 0, 0});
+void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean,
+                    std::uint64_t hash) {
+    m_candidates.emplace_back(option, nameIndex, false, name, std::size_t{1}, name.size(), npos);
+    insert(hash);
     if (boolean) {
-        insert(Candidate{option, nameIndex, true, "no-" + name, 0, 0});
+        std::string negated;
+        negated.reserve(3 + name.size());
+        negated.append("no-").append(name);
+        Candidate const& added = m_candidates.emplace_back(option, nameIndex, true, std::move(negated), std::size_t{1},
+                                                           std::size_t{0}, npos);
+        insert(hashOf(added.text));
     }
 }
 
-void NameIndex::insert(Candidate candidate) {
-    candidate.parts = static_cast<std::size_t>(std::count(candidate.text.begin(), candidate.text.end(), '-')) + 1;
-    candidate.firstEnd = std::min(candidate.text.find('-'), candidate.text.size());
-    std::size_t const id = m_candidates.size();
-    m_candidates.push_back(std::move(candidate));
-    m_nextSame.push_back(npos);
-    link(m_named.findOrAdd(m_candidates.back().text, textOf()), id, m_nextSame);
+void NameIndex::insert(std::uint64_t hash) {
+    std::size_t const id = m_candidates.size() - 1;
+    Candidate& candidate = m_candidates[id];
+    std::string const& text = candidate.text;
+    char const* const end = text.data() + text.size();
+    auto nextHyphen = [end](char const* from) {
+        return static_cast<char const*>(std::memchr(from, '-', static_cast<std::size_t>(end - from)));
+    };
+    char const* hyphen = nextHyphen(text.data());
+    candidate.firstEnd = hyphen == nullptr ? text.size() : static_cast<std::size_t>(hyphen - text.data());
+    for (; hyphen != nullptr; hyphen = nextHyphen(hyphen + 1)) {
+        ++candidate.parts;
+    }
+    link(m_named.findOrAdd(text, hash, textOf()), id,
+         [this](std::size_t at) -> std::size_t& { return m_candidates[at].nextSame; });
 }
 
 // Links the candidates added since the last call. link() places each by
@@ -31,7 +47,8 @@ void NameIndex::linkShapes() const {
         }
         m_nextShape.push_back(npos);
         std::string_view const first = std::string_view(candidate.text).substr(0, candidate.firstEnd);
-        link(m_shapes[candidate.parts].try_emplace(first, Chain{npos, npos}).first->second, id, m_nextShape);
+        link(m_shapes[candidate.parts].try_emplace(first, Chain{npos, npos}).first->second, id,
+             [this](std::size_t at) -> std::size_t& { return m_nextShape[at]; });
     }
 }
 
@@ -50,32 +67,33 @@ bool NameIndex::before(std::size_t a, std::size_t b) const {
 
 // Registration appends at the tail; a synonym added to an earlier option
 // lands before later options' names.
-void NameIndex::link(Chain& chain, std::size_t id, std::vector<std::size_t>& next) const {
+template <class Next>
+void NameIndex::link(Chain& chain, std::size_t id, Next const& next) const {
     if (chain.head == npos) {
         chain.head = id;
         chain.tail = id;
         return;
     }
     if (before(chain.tail, id)) {
-        next[chain.tail] = id;
+        next(chain.tail) = id;
         chain.tail = id;
         return;
     }
     if (before(id, chain.head)) {
-        next[id] = chain.head;
+        next(id) = chain.head;
         chain.head = id;
         return;
     }
     std::size_t at = chain.head;
-    while (before(next[at], id)) {
-        at = next[at];
+    while (before(next(at), id)) {
+        at = next(at);
     }
-    next[id] = next[at];
-    next[at] = id;
+    next(id) = next(at);
+    next(at) = id;
 }
 
-std::size_t NameIndex::firstNamed(std::string_view name) const {
-    Chain const* const chain = m_named.find(name, textOf());
+std::size_t NameIndex::firstNamed(std::string_view name, std::uint64_t hash) const {
+    Chain const* const chain = m_named.find(name, hash, textOf());
     return chain == nullptr ? npos : chain->head;
 }
 

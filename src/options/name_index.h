@@ -2,7 +2,7 @@
 #define QUEN_3_1_OPTIONS_NAME_INDEX_H
 
 #include <cstddef>
-#include <deque>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "options/chain_table.h"
+#include "options/stable_list.h"
+#include "values/text_hash.h"
 
 namespace quen_3_1 {
 
@@ -31,16 +33,27 @@ public:
         std::string text;      // the name as a whole ("no-" included)
         std::size_t parts;     // number of '-'-separated parts
         std::size_t firstEnd;  // length of the first part
+        std::size_t nextSame;  // the next candidate with the same text; npos after the last
     };
 
+    // The hash the index files `name` under; a caller that looks a name up
+    // and then adds it hashes it once.
+    static std::uint64_t hashOf(std::string_view name) { return hashDeclaredName(name); }
+
     // Adds the option's name at `nameIndex` and, for a boolean, its "no-" form.
-    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean);
+    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
+        add(option, nameIndex, name, boolean, hashOf(name));
+    }
+    // The same with the name's hashOf.
+    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean, std::uint64_t hash);
 
     // The first candidate named exactly `name` (follow nextNamed for the
     // others); npos when there is none.
-    std::size_t firstNamed(std::string_view name) const;
+    std::size_t firstNamed(std::string_view name) const { return firstNamed(name, hashOf(name)); }
+    // The same with the name's hashOf.
+    std::size_t firstNamed(std::string_view name, std::uint64_t hash) const;
     // The candidate after `id` with the same name; npos after the last.
-    std::size_t nextNamed(std::size_t id) const { return m_nextSame[id]; }
+    std::size_t nextNamed(std::size_t id) const { return m_candidates[id].nextSame; }
     // Appends the candidates with `parts` parts whose first part begins with
     // `first`, in candidate-list order. The chains by shape are built here, on
     // first use: exact names, the common case, never need them.
@@ -52,19 +65,21 @@ public:
 private:
     using Chain = ChainTable::Chain;
 
-    void insert(Candidate candidate);
+    // Files the candidate just appended under its text.
+    void insert(std::uint64_t hash);
     void linkShapes() const;
     bool before(std::size_t a, std::size_t b) const;
     // The text of a candidate, as the chain table reads its keys.
     auto textOf() const {
         return [this](std::size_t id) { return std::string_view(m_candidates[id].text); };
     }
-    void link(Chain& chain, std::size_t id, std::vector<std::size_t>& next) const;
+    // Links `id` into `chain`, whose links `next(id)` gives.
+    template <class Next>
+    void link(Chain& chain, std::size_t id, Next const& next) const;
 
-    // A deque, so that the keys below can view the candidates' texts.
-    std::deque<Candidate> m_candidates;
+    // Never moved, so that the keys below can view the candidates' texts.
+    StableList<Candidate> m_candidates;
     ChainTable m_named;
-    std::vector<std::size_t> m_nextSame;  // by candidate: next with the same text
     // By number of parts, then by first part, and by candidate the next one
     // of the same shape: filled in lazily for the candidates added since.
     mutable std::vector<std::map<std::string_view, Chain>> m_shapes;

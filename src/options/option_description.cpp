@@ -10,12 +10,18 @@ OptionDescription::OptionDescription()
     : OptionDescription(std::vector<std::string>(), std::string(), std::string(), std::string(), tarvo2::vt_empty,
                         nullptr) {}
 
-OptionDescription::OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
-                                     std::string description, kel_variant_type_t type, Garbage* garbage)
+OptionDescription::OptionDescription(std::vector<std::string> names, std::string const& group,
+                                     std::string const& groupTitle, std::string description, kel_variant_type_t type,
+                                     Garbage* garbage)
+    : OptionDescription(std::move(names), group, groupTitle, HeldText(std::move(description)), type, garbage) {}
+
+OptionDescription::OptionDescription(std::vector<std::string>&& names, std::string const& group,
+                                     std::string const& groupTitle, HeldText description, kel_variant_type_t type,
+                                     Garbage* garbage)
     : m_status(0),
       m_names(std::move(names)),
-      m_group(std::move(group)),
-      m_groupTitle(std::move(groupTitle)),
+      m_group(group),
+      m_groupTitle(groupTitle),
       m_description(std::move(description)),
       m_positional(false),
       m_hasDefault(false),

@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "options/held_text.h"
 #include "quen_3_1/quen.h"
 
 namespace quen_3_1 {
@@ -19,8 +21,11 @@ class OptionDescription final : public IOption {
 public:
     // The registry's placeholder: no names, kind vt_empty, no keeper.
     OptionDescription();
-    OptionDescription(std::vector<std::string> names, std::string group, std::string groupTitle,
+    OptionDescription(std::vector<std::string> names, std::string const& group, std::string const& groupTitle,
                       std::string description, kel_variant_type_t type, Garbage* garbage);
+    // The registry's: the description views text the registry keeps.
+    OptionDescription(std::vector<std::string>&& names, std::string const& group, std::string const& groupTitle,
+                      HeldText description, kel_variant_type_t type, Garbage* garbage);
     OptionDescription(OptionDescription const& other) = default;
     OptionDescription& operator=(OptionDescription const& other) = default;
     ~OptionDescription() override = default;
@@ -38,7 +43,7 @@ public:
     std::string const& primaryName() const { return m_names.at(0); }
     std::string const& group() const { return m_group; }
     std::string const& groupTitle() const { return m_groupTitle; }
-    std::string const& description() const { return m_description; }
+    std::string_view description() const { return m_description.view(); }
     bool isPositional() const { return m_positional; }
     bool hasDefault() const { return m_hasDefault; }
     char tokenizer() const { return m_tokenizer; }
@@ -77,7 +82,7 @@ private:
     std::vector<std::string> m_names;
     std::string m_group;
     std::string m_groupTitle;
-    std::string m_description;
+    HeldText m_description;
     bool m_positional;
     bool m_hasDefault;
     char m_tokenizer;

@@ -1,28 +1,44 @@
 #include "options/registered_option_storage.h"
 
+#include <stdexcept>
 #include <string_view>
 
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
+#include "options/messages.h"
 #include "values/separator_split.h"
 
 namespace quen_3_1 {
 
+namespace {
+
+// A host's text; a null one is refused as a string made of it always was.
+char const* required(char const* text) {
+    if (text == nullptr) {
+        throw std::logic_error(option_messages::nullText());
+    }
+    return text;
+}
+
+}  // namespace
+
 IOption* RegisteredOptionStorage::option(char const* names, char const* description, kel_variant_type_t type,
                                          char const* group) {
-    std::pair<std::string, std::string> const& groupEntry = recordGroup(group);
+    std::pair<std::string, std::string> const& groupEntry = recordGroup(required(group));
     m_invalidOption.setStatus(3);
     std::vector<std::string> list;
-    split(names, list);
-    if (validateName(list) == 1) {
+    splitAtSeparator(required(names), ',', list);
+    NameHashes hashes{};
+    if (validateName(list, hashes) == 1) {
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
     std::size_t const index = m_options.size();
-    m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, description, type, m_garbage);
-    OptionDescription& stored = m_options.back();
+    HeldText held = HeldText::viewing(TextArena::copied(m_texts.copy(required(description))));
+    OptionDescription& stored =
+        m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
-        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool);
+        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool, hashes[i]);
     }
     stored.linkTo(this, index);
     return &stored;
@@ -41,16 +57,15 @@ void RegisteredOptionStorage::positionalSet(std::size_t option) {
 }
 
 // The first title given to a group wins; later ones are ignored.
-std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string const& group) {
+std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string_view group) {
     std::size_t const colon = group.find(':');
-    std::string_view const name = std::string_view(group).substr(0, colon);
+    std::string_view const name = group.substr(0, colon);
     for (auto const& entry : m_groups) {
         if (entry.first == name) {
             return entry;
         }
     }
-    std::string_view const title =
-        colon == std::string::npos ? std::string_view() : std::string_view(group).substr(colon + 1);
+    std::string_view const title = colon == std::string_view::npos ? std::string_view() : group.substr(colon + 1);
     m_groups.emplace_back(std::string(name), std::string(title));
     return m_groups.back();
 }
@@ -61,11 +76,20 @@ int RegisteredOptionStorage::split(std::string const& text, std::vector<std::str
 }
 
 int RegisteredOptionStorage::validateName(std::vector<std::string> const& names) {
-    if (names.size() > 3 || (names.size() == 3 && names[2].size() > 2)) {
+    NameHashes hashes{};
+    return validateName(names, hashes);
+}
+
+// Hashes each name once, for the lookup here and the registration after it.
+int RegisteredOptionStorage::validateName(std::vector<std::string> const& names, NameHashes& hashes) {
+    if (names.size() > hashes.size() || (names.size() == 3 && names[2].size() > 2)) {
         return 1;
     }
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        hashes[i] = NameIndex::hashOf(names[i]);
+    }
     unsigned long index = 0;
-    if (findOption(names, index) == 0) {
+    if (findOption(names, hashes, index) == 0) {
         internal::trace("An option with the same name is already registered: ", names[0]);
         ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
         return 1;
@@ -77,13 +101,29 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names)
 // first one is the option the scan would meet first.
 int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, unsigned long& index) const {
     for (std::string const& name : names) {
-        std::size_t const found = m_names.firstNamed(name);
-        if (found != NameIndex::npos) {
-            index = m_names.candidate(found).option;
+        if (found(m_names.firstNamed(name), index)) {
             return 0;
         }
     }
     return 1;
+}
+
+int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, NameHashes const& hashes,
+                                        unsigned long& index) const {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (found(m_names.firstNamed(names[i], hashes[i]), index)) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+bool RegisteredOptionStorage::found(std::size_t candidate, unsigned long& index) const {
+    if (candidate == NameIndex::npos) {
+        return false;
+    }
+    index = m_names.candidate(candidate).option;
+    return true;
 }
 
 }  // namespace quen_3_1

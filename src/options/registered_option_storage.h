@@ -1,13 +1,17 @@
 #ifndef QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 #define QUEN_3_1_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
-#include <deque>
+#include <array>
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "options/name_index.h"
 #include "options/option_description.h"
+#include "options/stable_list.h"
+#include "values/text_arena.h"
 
 namespace quen_3_1 {
 
@@ -49,9 +53,19 @@ public:
     OptionDescription const& invalidOption() const { return m_invalidOption; }
 
 private:
-    std::pair<std::string, std::string> const& recordGroup(std::string const& group);
+    // The hashes of a name list that may be registered (at most three names).
+    using NameHashes = std::array<std::uint64_t, 3>;
 
-    std::deque<OptionDescription> m_options;
+    std::pair<std::string, std::string> const& recordGroup(std::string_view group);
+    int validateName(std::vector<std::string> const& names, NameHashes& hashes);
+    int findOption(std::vector<std::string> const& names, NameHashes const& hashes, unsigned long& index) const;
+    // True with `index` set to the option of `candidate`, unless it is npos.
+    bool found(std::size_t candidate, unsigned long& index) const;
+
+    // The descriptions' texts: one block for many options instead of one
+    // allocation each. Declared first, so that it outlives the options.
+    TextArena m_texts;
+    StableList<OptionDescription> m_options;
     std::vector<std::pair<std::string, std::string>> m_groups;
     Garbage* m_garbage = nullptr;
     OptionDescription m_invalidOption;

@@ -1,24 +1,58 @@
 #include "values/separator_split.h"
 
+#include <cstring>
+
 namespace quen_3_1 {
 
-void splitAtSeparator(std::string const& text, char separator, std::vector<std::string>& out) {
-    char const* const data = text.c_str();  // data[size] is the terminating NUL
-    std::size_t const size = text.size();
+namespace {
+
+// Names hold no separator or a few: a search per separator beats a test per character.
+std::size_t separatorsIn(char const* data, std::size_t size, char separator) {
+    std::size_t count = 0;
+    char const* const end = data + size;
+    for (void const* at = std::memchr(data, separator, size); at != nullptr;
+         at = std::memchr(static_cast<char const*>(at) + 1, separator,
+                          static_cast<std::size_t>(end - static_cast<char const*>(at) - 1))) {
+        ++count;
+    }
+    return count;
+}
+
+// `data[size]` is the terminating NUL, which a trailing separator's piece holds.
+void splitTerminated(char const* data, std::size_t size, char separator, std::vector<std::string>& out) {
+    // Each separator ends at most one piece: one allocation for a new list. A
+    // list appended to keeps its geometric growth.
+    if (out.empty()) {
+        out.reserve(separatorsIn(data, size, separator) + 1);
+    }
+    // Each search skips to the next separator; the character right after one
+    // is never tested.
     std::size_t start = 0;
     std::size_t pos = 0;
     while (pos < size) {
-        if (data[pos] == separator) {
-            out.emplace_back(data + start, pos - start);
-            start = pos + 1;
-            pos += 2;
-        } else {
-            ++pos;
+        void const* const hit = std::memchr(data + pos, separator, size - pos);
+        if (hit == nullptr) {
+            pos = size;
+            break;
         }
+        auto const at = static_cast<std::size_t>(static_cast<char const*>(hit) - data);
+        out.emplace_back(data + start, at - start);
+        start = at + 1;
+        pos = at + 2;
     }
     if (start != pos) {
         out.emplace_back(data + start, pos - start);
     }
+}
+
+}  // namespace
+
+void splitAtSeparator(std::string const& text, char separator, std::vector<std::string>& out) {
+    splitTerminated(text.c_str(), text.size(), separator, out);
+}
+
+void splitAtSeparator(char const* text, char separator, std::vector<std::string>& out) {
+    splitTerminated(text, std::strlen(text), separator, out);
 }
 
 }  // namespace quen_3_1

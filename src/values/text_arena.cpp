@@ -1,5 +1,6 @@
 #include "values/text_arena.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace quen_3_1 {
@@ -7,6 +8,8 @@ namespace quen_3_1 {
 namespace {
 
 constexpr std::size_t kLargestBlock = std::size_t{64} * 1024;
+// Room for the blocks of most arenas before their list grows.
+constexpr std::size_t kFirstBlocks = 8;
 
 }  // namespace
 
@@ -36,6 +39,9 @@ char* TextArena::reserve(std::size_t size) {
         m_left -= size;
         return out;
     }
+    if (m_blocks.empty()) {
+        m_blocks.reserve(kFirstBlocks);
+    }
     if (size > m_nextBlock / 4) {
         m_blocks.push_back(std::unique_ptr<char[]>(new char[size]));
         return m_blocks.back().get();
@@ -43,9 +49,7 @@ char* TextArena::reserve(std::size_t size) {
     m_blocks.push_back(std::unique_ptr<char[]>(new char[m_nextBlock]));
     m_free = m_blocks.back().get() + size;
     m_left = m_nextBlock - size;
-    if (m_nextBlock < kLargestBlock) {
-        m_nextBlock *= 2;
-    }
+    m_nextBlock = std::min(2 * m_nextBlock, kLargestBlock);
     return m_blocks.back().get();
 }
 

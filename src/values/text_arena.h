@@ -28,7 +28,10 @@ private:
     std::vector<std::unique_ptr<char[]>> m_blocks;
     char* m_free = nullptr;
     std::size_t m_left = 0;
-    std::size_t m_nextBlock = 256;
+    // The first block holds a parser's descriptions or a command line's kept
+    // texts, and stays below the size from which the allocator leaves its
+    // quick path.
+    std::size_t m_nextBlock = 960;
 };
 
 }  // namespace quen_3_1

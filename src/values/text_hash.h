@@ -93,6 +93,59 @@ std::uint64_t sipHash(HashKey const& key, std::string_view text) {
 // the process, and with few rounds, as names and values are mostly short.
 inline std::uint64_t hashText(std::string_view text) { return sipHash<1, 3>(processHashKey(), text); }
 
+namespace detail {
+
+inline std::uint64_t loadWord(char const* p) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, p, 8);
+    return word;
+}
+
+inline std::uint64_t loadHalf(char const* p) {
+    std::uint32_t half = 0;
+    std::memcpy(&half, p, 4);
+    return half;
+}
+
+// The finaliser of splitmix64: every bit of `x` reaches every bit of the result.
+inline std::uint64_t finalise(std::uint64_t x) {
+    x = (x ^ (x >> 30)) * 0xbf58476d1ce4e5b9ULL;
+    x = (x ^ (x >> 27)) * 0x94d049bb133111ebULL;
+    return x ^ (x >> 31);
+}
+
+}  // namespace detail
+
+// The hash of a name for tables into which only the names a host declares are
+// ever inserted (the name index): a typed argument is only looked up there, so
+// no input can lengthen their runs of slots, and a few multiplications per
+// eight bytes do where SipHash's rounds cost several times as much. Tables
+// into which typed text is inserted (the keeper of values and texts, a
+// result's names) keep hashText, whose collisions cannot be computed.
+inline std::uint64_t declaredNameHash(HashKey const& key, std::string_view text) {
+    char const* const p = text.data();
+    std::size_t const n = text.size();
+    std::uint64_t h = key.k0 ^ (static_cast<std::uint64_t>(n) * 0x9e3779b97f4a7c15ULL);
+    for (std::size_t i = 0; i + 8 <= n; i += 8) {
+        h = detail::rotateLeft((h ^ detail::loadWord(p + i)) * 0x9e3779b97f4a7c15ULL, 29);
+    }
+    // The last bytes are read again as one word (overlapping), so no byte loop.
+    std::uint64_t last = 0;
+    if (n >= 8) {
+        last = detail::loadWord(p + n - 8);
+    } else if (n >= 4) {
+        last = detail::loadHalf(p) | (detail::loadHalf(p + n - 4) << 32);
+    } else if (n > 0) {
+        last = static_cast<unsigned char>(p[0]) |
+               (static_cast<std::uint64_t>(static_cast<unsigned char>(p[n / 2])) << 8) |
+               (static_cast<std::uint64_t>(static_cast<unsigned char>(p[n - 1])) << 16);
+    }
+    return detail::finalise((h ^ last) * 0x9e3779b97f4a7c15ULL ^ key.k1);
+}
+
+// The same with the key of this process.
+inline std::uint64_t hashDeclaredName(std::string_view text) { return declaredNameHash(processHashKey(), text); }
+
 // The same as a hash function object for the standard unordered containers.
 struct TextHash {
     std::size_t operator()(std::string_view text) const { return static_cast<std::size_t>(hashText(text)); }

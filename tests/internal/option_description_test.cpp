@@ -216,6 +216,23 @@ TEST(OptionDescriptionCopy, AssignmentOwnsItsTextDefault) {
     EXPECT_EQ(target.garbage(), &keeper);
 }
 
+// A registered option's description lies in its registry's storage; a copy
+// keeps its own, so it still reads after the registry is gone.
+TEST(OptionDescriptionCopy, CopyOfARegisteredOptionOutlivesTheRegistry) {
+    Garbage keeper;
+    auto registry = std::make_unique<RegisteredOptionStorage>();
+    registry->setGarbage(&keeper);
+    std::string description = "Where to write the log";
+    registry->option("log-file,lf", description.c_str(), tarvo2::vt_str, "general:General options");
+    description.assign("changed by the host");
+    EXPECT_EQ(registry->at(0).description(), "Where to write the log");
+    OptionDescription const copy(registry->at(0));
+    registry.reset();
+    EXPECT_EQ(copy.description(), "Where to write the log");
+    EXPECT_EQ(copy.names(), (Names{"log-file", "lf"}));
+    EXPECT_EQ(copy.group(), "general");
+}
+
 TEST(OptionDescriptionPlaceholder, HasNoNamesKindEmptyAndNoKeeper) {
     OptionDescription const placeholder;
     EXPECT_TRUE(placeholder.names().empty());

@@ -63,3 +63,19 @@ TEST(SeparatorSplit, AppendsToExistingPieces) {
     quen_3_1::splitAtSeparator("a,b", ',', out);
     EXPECT_EQ(out, (Pieces{"kept", "a", "b"}));
 }
+
+// A host's NUL-terminated name list splits as the same text held in a string.
+TEST(SeparatorSplit, TerminatedTextSplitsLikeTheSameString) {
+    for (char const* text : {"", "a", "a,b", "a,,b", ",a", "a,", ",", ",,", "a,b,c,", "log-file,lf,l"}) {
+        Pieces fromText;
+        quen_3_1::splitAtSeparator(text, ',', fromText);
+        EXPECT_EQ(fromText, split(std::string(text))) << text;
+    }
+}
+
+// Pieces are appended to what the list already holds.
+TEST(SeparatorSplit, PiecesAreAppended) {
+    Pieces out{"first"};
+    quen_3_1::splitAtSeparator(std::string("a,b"), ',', out);
+    EXPECT_EQ(out, (Pieces{"first", "a", "b"}));
+}
