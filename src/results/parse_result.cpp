@@ -15,14 +15,20 @@ ParseResult::ParseResult() : m_from(0), m_to(0x7fffffff), m_current(nullptr), m_
 
 void ParseResult::destroy() { delete this; }
 
-// The first store of an option finds its primary name new.
 int ParseResult::store(OptionDescription const& option, OptionData const& data) {
+    OptionData copy = data;
+    return store(option, copy);
+}
+
+// The first store of an option finds its primary name new. Only the odd
+// cases, where one occurrence goes to several records, copy the values.
+int ParseResult::store(OptionDescription const& option, OptionData& data) {
     std::vector<std::string> const& names = option.names();
     auto const primary = m_names.findOrAdd(names.at(0), NameEntry{kNoRecord, ValueLog::kEnd});
     if (primary.second) {
         replaceUnderEveryName(names, *primary.first, data);
     } else if (reachesOnlyItsOwnRecord(names, primary.first->record)) {
-        appendTimes(primary.first->record, data, 1);
+        appendTaking(primary.first->record, data);
     } else {
         appendUnderEveryName(names, data);
     }
@@ -50,10 +56,9 @@ bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names,
     return true;
 }
 
-void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary,
-                                        OptionData const& data) {
+void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data) {
     std::size_t const id = newRecord();
-    appendTimes(id, data, 1);
+    appendTaking(id, data);
     std::uint32_t const kept = keptDefault(data.m_default);
     point(primary, id);
     primary.defaultEntry = kept;
@@ -130,6 +135,16 @@ void ParseResult::appendTimes(std::size_t record, OptionData const& data, std::s
         for (ValueEntry const& value : data.m_values) {
             m_log.addValue(to.values, value);
         }
+    }
+}
+
+void ParseResult::appendTaking(std::size_t record, OptionData& data) {
+    Record& to = m_records[record];
+    for (std::int32_t const position : data.m_positions) {
+        m_log.addPosition(to.positions, position);
+    }
+    for (ValueEntry& value : data.m_values) {
+        m_log.takeValue(to.values, value);
     }
 }
 

@@ -41,7 +41,9 @@ public:
     // The first store of an option (its first name unknown) replaces the data
     // under every name; later stores append under every name, once per time
     // the name is listed. Returns 0.
-    int store(OptionDescription const& option, OptionData const& data) override;
+    int store(OptionDescription const& option, OptionData& data) override;
+    // The same with the values copied.
+    int store(OptionDescription const& option, OptionData const& data);
     // Sets the default entry of every option that has one, one sequence number
     // per name. NumbersExhausted, with `message` set, when the numbers run
     // out; the defaults set before stay.
@@ -91,9 +93,10 @@ private:
     };
 
     bool reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const;
-    void replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData const& data);
+    void replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data);
     void appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
     void appendTimes(std::size_t record, OptionData const& data, std::size_t times);
+    void appendTaking(std::size_t record, OptionData& data);
     std::uint32_t keptDefault(ValueEntry const& entry);
     std::size_t newRecord();
     void point(NameEntry& entry, std::size_t record);

@@ -10,7 +10,22 @@ ValueLog::~ValueLog() {
     }
 }
 
+namespace {
+
+// Logs start with room for a short command line, so that one rarely grows.
+constexpr std::size_t kFirstCapacity = 32;
+
+template <class Entry>
+void growWhenFull(std::vector<Entry>& entries) {
+    if (entries.size() == entries.capacity()) {
+        entries.reserve(entries.empty() ? kFirstCapacity : 2 * entries.capacity());
+    }
+}
+
+}  // namespace
+
 void ValueLog::addPosition(Chain& chain, std::int32_t number) {
+    growWhenFull(m_positions);
     auto const at = static_cast<std::uint32_t>(m_positions.size());
     m_positions.push_back(Position{number, kEnd});
     std::uint32_t ignored = kEnd;
@@ -18,7 +33,15 @@ void ValueLog::addPosition(Chain& chain, std::int32_t number) {
 }
 
 void ValueLog::addValue(Chain& chain, ValueEntry const& entry) {
-    std::uint32_t const at = append(entry);
+    std::uint32_t const at = keep(entry);
+    std::uint32_t ignored = kEnd;
+    link(chain, at, chain.empty() ? ignored : m_values[chain.last].next);
+}
+
+void ValueLog::takeValue(Chain& chain, ValueEntry& entry) {
+    growWhenFull(m_values);
+    char const* const text = m_texts.copy(entry.first.first);
+    std::uint32_t const at = append(text, takePayload(entry.first.second), entry.second);
     std::uint32_t ignored = kEnd;
     link(chain, at, chain.empty() ? ignored : m_values[chain.last].next);
 }
@@ -35,7 +58,12 @@ void ValueLog::copyValues(Chain const& from, Chain& to) {
     }
 }
 
-std::uint32_t ValueLog::keep(ValueEntry const& entry) { return append(entry); }
+// The room and the text come first, so that nothing can fail once the value is copied.
+std::uint32_t ValueLog::keep(ValueEntry const& entry) {
+    growWhenFull(m_values);
+    char const* const text = m_texts.copy(entry.first.first);
+    return append(text, copyPayload(entry.first.second), entry.second);
+}
 
 ValueEntry ValueLog::entryAt(std::uint32_t at) const {
     Stored const& stored = m_values[at];
@@ -46,16 +74,9 @@ ValueEntry ValueLog::entryAt(std::uint32_t at) const {
     return entry;
 }
 
-// The copy of the value is made first, so that a failed copy leaves nothing behind.
-std::uint32_t ValueLog::append(ValueEntry const& entry) {
-    Payload const value = copyPayload(entry.first.second);
-    try {
-        char const* const text = m_texts.copy(entry.first.first);
-        m_values.push_back(Stored{text, value, entry.second, kEnd});
-    } catch (...) {
-        releasePayload(value);
-        throw;
-    }
+// Never throws: the caller has made room.
+std::uint32_t ValueLog::append(char const* text, Payload value, std::int32_t number) {
+    m_values.push_back(Stored{text, value, number, kEnd});
     return static_cast<std::uint32_t>(m_values.size() - 1);
 }
 

@@ -46,6 +46,8 @@ public:
     void addPosition(Chain& chain, std::int32_t number);
     // Appends a copy of `entry` to `chain`.
     void addValue(Chain& chain, ValueEntry const& entry);
+    // The same, taking the converted value out of `entry` instead of copying it.
+    void takeValue(Chain& chain, ValueEntry& entry);
     // Appends copies of every entry of `from` to `to`.
     void copyPositions(Chain const& from, Chain& to);
     void copyValues(Chain const& from, Chain& to);
@@ -60,7 +62,7 @@ public:
     ValueEntry entryAt(std::uint32_t at) const;
 
 private:
-    std::uint32_t append(ValueEntry const& entry);
+    std::uint32_t append(char const* text, Payload value, std::int32_t number);
     void link(Chain& chain, std::uint32_t at, std::uint32_t& previousNext);
 
     std::vector<Position> m_positions;
