@@ -83,7 +83,7 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     tarvo2::variant_t converted;
     std::string reason;
     if (!option.validate(piece, converted, reason)) {
-        message = recognizer_messages::validationProblem(args[0], reason);
+        message = recognizer_messages::validationProblem(std::string(args[0]), reason);
         internal::trace(m_name, ": ", message);
         return Status::Failed;
     }
@@ -94,7 +94,7 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
     transferVariant(event.m_value, converted);
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
-        message = recognizer_messages::valueVetoed(whole, option.primaryName(), args[0]);
+        message = recognizer_messages::valueVetoed(whole, option.primaryName(), std::string(args[0]));
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return Status::Vetoed;
     }

@@ -42,7 +42,7 @@ std::string traceOf(Body body) {
 inline std::vector<std::string> remaining(quen_3_1::ArgumentList const& args) {
     std::vector<std::string> rest;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        rest.push_back(args[i]);
+        rest.emplace_back(args[i]);
     }
     return rest;
 }
