@@ -148,7 +148,12 @@ void ParseResult::appendTaking(std::size_t record, OptionData& data) {
     }
 }
 
+// A result starts with room for the records of a short command line.
 std::size_t ParseResult::newRecord() {
+    constexpr std::size_t kFirstRecords = 16;
+    if (m_records.empty()) {
+        m_records.reserve(kFirstRecords);
+    }
     m_records.emplace_back();
     return m_records.size() - 1;
 }

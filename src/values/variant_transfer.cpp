@@ -4,6 +4,10 @@ namespace quen_3_1 {
 
 namespace {
 
+bool ownsMemory(kel_variant_type_t type) {
+    return type == tarvo2::vt_str || type == tarvo2::vt_wstr || type == tarvo2::vt_blob;
+}
+
 // A variant that shows a payload it does not own: it is emptied before the
 // variant's own destructor could release anything, on every path.
 struct Borrowed {
@@ -40,7 +44,14 @@ void releasePayload(Payload payload) {
     owner.m_type = payload.type;
 }
 
+// Numbers and borrowed texts are copied as they are, which is all the
+// assignment would do for them.
 void assignPayload(tarvo2::variant_t& target, Payload payload) {
+    if (!ownsMemory(payload.type) && !ownsMemory(target.m_type)) {
+        target.m_data = payload.data;
+        target.m_type = payload.type;
+        return;
+    }
     Borrowed const shown(payload);
     target = shown.value;
 }
