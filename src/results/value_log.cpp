@@ -5,29 +5,13 @@
 namespace quen_3_1 {
 
 ValueLog::~ValueLog() {
-    for (Stored const& stored : m_values) {
-        releasePayload(stored.value);
+    for (std::uint32_t at = 0; at < m_values.size(); ++at) {
+        releasePayload(m_values[at].value);
     }
 }
-
-namespace {
-
-// Logs start with room for a short command line, so that one rarely grows.
-constexpr std::size_t kFirstCapacity = 32;
-
-template <class Entry>
-void growWhenFull(std::vector<Entry>& entries) {
-    if (entries.size() == entries.capacity()) {
-        entries.reserve(entries.empty() ? kFirstCapacity : 2 * entries.capacity());
-    }
-}
-
-}  // namespace
 
 void ValueLog::addPosition(Chain& chain, std::int32_t number) {
-    growWhenFull(m_positions);
-    auto const at = static_cast<std::uint32_t>(m_positions.size());
-    m_positions.push_back(Position{number, kEnd});
+    std::uint32_t const at = m_positions.push(Position{number, kEnd});
     std::uint32_t ignored = kEnd;
     link(chain, at, chain.empty() ? ignored : m_positions[chain.last].next);
 }
@@ -39,7 +23,7 @@ void ValueLog::addValue(Chain& chain, ValueEntry const& entry) {
 }
 
 void ValueLog::takeValue(Chain& chain, ValueEntry& entry) {
-    growWhenFull(m_values);
+    m_values.reserveOne();
     char const* const text = m_texts.copy(entry.first.first);
     std::uint32_t const at = append(text, takePayload(entry.first.second), entry.second);
     std::uint32_t ignored = kEnd;
@@ -60,7 +44,7 @@ void ValueLog::copyValues(Chain const& from, Chain& to) {
 
 // The room and the text come first, so that nothing can fail once the value is copied.
 std::uint32_t ValueLog::keep(ValueEntry const& entry) {
-    growWhenFull(m_values);
+    m_values.reserveOne();
     char const* const text = m_texts.copy(entry.first.first);
     return append(text, copyPayload(entry.first.second), entry.second);
 }
@@ -76,8 +60,7 @@ ValueEntry ValueLog::entryAt(std::uint32_t at) const {
 
 // Never throws: the caller has made room.
 std::uint32_t ValueLog::append(char const* text, Payload value, std::int32_t number) {
-    m_values.push_back(Stored{text, value, number, kEnd});
-    return static_cast<std::uint32_t>(m_values.size() - 1);
+    return m_values.push(Stored{text, value, number, kEnd});
 }
 
 void ValueLog::link(Chain& chain, std::uint32_t at, std::uint32_t& previousNext) {

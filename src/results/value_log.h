@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "results/block_log.h"
 #include "results/option_data.h"
 #include "values/text_arena.h"
 #include "values/variant_transfer.h"
@@ -65,8 +66,8 @@ private:
     std::uint32_t append(char const* text, Payload value, std::int32_t number);
     void link(Chain& chain, std::uint32_t at, std::uint32_t& previousNext);
 
-    std::vector<Position> m_positions;
-    std::vector<Stored> m_values;
+    BlockLog<Position> m_positions;
+    BlockLog<Stored> m_values;
     TextArena m_texts;
 };
 
