@@ -40,7 +40,16 @@ int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
         return codeOf(Status::Refused);
     }
     try {
-        return codeOf(parseVector(std::vector<std::string>(argv + 1, argv + argc), result));
+        std::vector<std::string_view> views;
+        views.reserve(static_cast<std::size_t>(argc - 1));
+        for (int i = 1; i < argc; ++i) {
+            if (argv[i] == nullptr) {
+                return codeOf(Status::Refused);
+            }
+            views.emplace_back(argv[i]);
+        }
+        ArgumentList list(std::move(views));
+        return codeOf(parseList(list, result));
     } catch (std::exception const&) {
         return codeOf(Status::Refused);
     }
@@ -53,7 +62,10 @@ int BasicParser::parseStream(char const* text, IParseResult* result) {
         return codeOf(spent);
     }
     try {
-        return codeOf(parseVector(argumentsOfText(ORNA_2_10::strings::tv2::to_ustring(text)), result));
+        std::string whole = ORNA_2_10::strings::tv2::to_ustring(text);
+        std::vector<std::pair<std::size_t, std::size_t>> const spans = argumentSpansOfText(whole);
+        ArgumentList list(std::move(whole), spans);
+        return codeOf(parseList(list, result));
     } catch (std::exception const&) {
         return codeOf(Status::Refused);
     }
@@ -69,10 +81,9 @@ Status BasicParser::refuseWhenNumbersSpent() {
     return Status::NumbersExhausted;
 }
 
-Status BasicParser::parseVector(std::vector<std::string> args, IParseResult* result) {
+Status BasicParser::parseList(ArgumentList& list, IParseResult* result) {
     try {
         std::string error;
-        ArgumentList list(std::move(args));
         Status status = parse("--", list, result, error);
         if (status == Status::Ok) {
             status = collectNonparsingArguments(list, asParseResult(result), error);

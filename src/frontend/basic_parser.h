@@ -40,7 +40,7 @@ public:
 
     // Runs recognition, then keeps what follows the terminator. Anything but
     // Ok comes with the text recorded as the last error.
-    Status parseVector(std::vector<std::string> args, IParseResult* result);
+    Status parseList(ArgumentList& list, IParseResult* result);
     // Lets the recognizers bid for each leading argument until the terminator.
     virtual Status parse(std::string const& terminator, ArgumentList& args, IParseResult* result, std::string& error);
 

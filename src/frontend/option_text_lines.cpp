@@ -8,8 +8,8 @@ namespace quen_3_1 {
 
 // Trailing blanks and tabs are data. Lines end at '\n' only; the piece after
 // a final '\n' is empty and adds nothing.
-std::vector<std::string> argumentsOfText(std::string const& text) {
-    std::vector<std::string> args;
+std::vector<std::pair<std::size_t, std::size_t>> argumentSpansOfText(std::string const& text) {
+    std::vector<std::pair<std::size_t, std::size_t>> args;
     args.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
     std::ctype<char> const& ctype = std::use_facet<std::ctype<char>>(std::locale());
     char const* line = text.data();
@@ -25,13 +25,22 @@ std::vector<std::string> argumentsOfText(std::string const& text) {
                 --last;
             }
             if (last != first) {
-                args.emplace_back(first, last);
+                args.emplace_back(static_cast<std::size_t>(first - text.data()),
+                                  static_cast<std::size_t>(last - first));
             }
         }
         if (newline == nullptr) {
             break;
         }
         line = newline + 1;
+    }
+    return args;
+}
+
+std::vector<std::string> argumentsOfText(std::string const& text) {
+    std::vector<std::string> args;
+    for (auto const& span : argumentSpansOfText(text)) {
+        args.emplace_back(text, span.first, span.second);
     }
     return args;
 }

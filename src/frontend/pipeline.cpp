@@ -41,9 +41,9 @@ Status BasicParser::parse(std::string const& terminator, ArgumentList& args, IPa
             continue;
         }
         // Handlers hear of every unclaimed argument, whether or not it is an error.
-        bool const unknown = onUknownArgument(args[0].c_str());
+        bool const unknown = onUknownArgument(args[0].data());
         if ((m_flags & FlagUnknownIsError) != 0 && unknown) {
-            error = frontend_messages::unknownOption(args[0]);
+            error = frontend_messages::unknownOption(std::string(args[0]));
             return Status::Failed;
         }
         internal::trace("ignoring ", args[0]);
@@ -55,7 +55,7 @@ Status BasicParser::parse(std::string const& terminator, ArgumentList& args, IPa
 Status BasicParser::collectNonparsingArguments(ArgumentList const& args, ParseResult* result, std::string& error) {
     try {
         for (std::size_t i = 1; i < args.size(); ++i) {
-            std::string const& argument = args[i];
+            std::string const argument(args[i]);
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 error = recognizer_messages::numbersExhausted();

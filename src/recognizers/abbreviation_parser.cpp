@@ -14,7 +14,7 @@ namespace {
 
 // Booleans and options without a value never take the next argument; the
 // others do unless a value follows the '='.
-std::size_t argumentsTaken(kel_variant_type_t type, std::string const& argument, std::size_t valueStart) {
+std::size_t argumentsTaken(kel_variant_type_t type, std::string_view argument, std::size_t valueStart) {
     if (type == tarvo2::vt_empty || type == tarvo2::vt_bool) {
         return 1;
     }
@@ -30,7 +30,7 @@ AbbreviationParser::AbbreviationParser(EventHandler* handler, Garbage* garbage, 
 
 bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionStorage const& storage,
                                    Recognition& found) {
-    std::string const& argument = args[0];
+    std::string_view const argument = args[0];
     internal::trace(m_name, ": recognizing argument '", argument, "'");
     found = Recognition();
     if (argument.size() < 2 || argument[0] != '-') {
@@ -38,9 +38,9 @@ bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionSto
     }
     std::size_t const equals = argument.find('=');
     found.nameStart = argument.size() > 2 && argument[1] == '-' ? 2 : 1;
-    found.nameEnd = equals == std::string::npos ? argument.size() : equals;
-    found.valueStart = equals == std::string::npos ? Recognition::npos : equals + 1;
-    std::string_view const typed = std::string_view(argument).substr(found.nameStart, found.nameEnd - found.nameStart);
+    found.nameEnd = equals == std::string_view::npos ? argument.size() : equals;
+    found.valueStart = equals == std::string_view::npos ? Recognition::npos : equals + 1;
+    std::string_view const typed = argument.substr(found.nameStart, found.nameEnd - found.nameStart);
     NameIndex const& index = storage.names();
     std::vector<std::size_t> const& best = m_matcher.find(index, typed);
     if (best.empty()) {
@@ -65,21 +65,21 @@ bool AbbreviationParser::recognize(ArgumentList const& args, RegisteredOptionSto
 
 Status AbbreviationParser::parse(ArgumentList& args, Recognition const& found, IResultCollector* collector,
                                  RegisteredOptionStorage const& storage, std::string& message) {
-    std::string const& argument = args[0];
+    std::string_view const argument = args[0];
     internal::trace(m_name, ": parsing argument '", argument, "'");
     if (!found.tied.empty()) {
         // The message drops both leading hyphens, so "--" shows an empty name
         // although it was matched as "-".
         std::size_t const start = argument[1] == '-' ? 2 : 1;
-        message = recognizer_messages::ambiguousOption(argument.substr(start, found.nameEnd - start), tokenPart(args),
-                                                       listCandidates(storage.names(), found.tied));
+        message = recognizer_messages::ambiguousOption(std::string(argument.substr(start, found.nameEnd - start)),
+                                                       tokenPart(args), listCandidates(storage.names(), found.tied));
         return Status::Failed;
     }
     OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": detected option: '", option.primaryName(), "'");
     std::string value;
     if (found.valueStart != Recognition::npos) {
-        value = argument.substr(found.valueStart);
+        value.assign(argument.substr(found.valueStart));
         internal::trace(m_name, ": value from the same argument taken: '", value, "'");
     }
     Status const decided = decideValue(args, found, option, value, message);
@@ -127,7 +127,7 @@ Status AbbreviationParser::valueFromNextArgument(ArgumentList const& args, Optio
     if (args.size() == 1) {
         return fail(message, recognizer_messages::valueRequired(option.primaryName(), tokenPart(args)));
     }
-    value = args[1];
+    value.assign(args[1]);
     if (!value.empty() && value[0] == '-') {
         return fail(message, recognizer_messages::nextLooksLikeOption(option.primaryName(), value));
     }
@@ -140,7 +140,7 @@ Status AbbreviationParser::valueFromNextArgument(ArgumentList const& args, Optio
 
 // formatTokenMessage of the argument being parsed.
 std::string AbbreviationParser::tokenPart(ArgumentList const& args) {
-    std::string token = args[0];
+    std::string token(args[0]);
     return formatTokenMessage(token);
 }
 

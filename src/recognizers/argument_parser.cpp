@@ -29,7 +29,8 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) { return rec
 Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& message,
                                                OptionDescription const& option, ArgumentList& args,
                                                IResultCollector* collector) {
-    // The record and the pieces are reused from call to call; the collector copies what it keeps.
+    // The record and the pieces are reused from call to call; the collector takes the
+    // converted values and copies the texts.
     OptionData& data = m_data;
     data.m_positions.clear();
     data.m_values.clear();
@@ -53,7 +54,7 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
                     return status;
                 }
                 internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-                                piece, "'");
+                                data.m_values.back().first.first, "'");
             }
         } else {
             internal::trace(m_name, ": not using tokenizer");
@@ -77,13 +78,14 @@ Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
     return Status::NumbersExhausted;
 }
 
-// Validates one piece, numbers it, lets the handlers veto it and keeps it.
+// Validates one piece, numbers it, lets the handlers veto it and keeps it;
+// the kept entry takes the piece's text, leaving the piece with another.
 Status IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
     tarvo2::variant_t converted;
     std::string reason;
     if (!option.validate(piece, converted, reason)) {
-        message = recognizer_messages::validationProblem(args[0], reason);
+        message = recognizer_messages::validationProblem(std::string(args[0]), reason);
         internal::trace(m_name, ": ", message);
         return Status::Failed;
     }
@@ -94,13 +96,13 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
     transferVariant(event.m_value, converted);
     if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
-        message = recognizer_messages::valueVetoed(whole, option.primaryName(), args[0]);
+        message = recognizer_messages::valueVetoed(whole, option.primaryName(), std::string(args[0]));
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return Status::Vetoed;
     }
     data.m_values.emplace_back();
     ValueEntry& entry = data.m_values.back();
-    entry.first.first = piece;
+    entry.first.first.swap(piece);
     transferVariant(entry.first.second, event.m_value);
     entry.second = number;
     return Status::Ok;

@@ -13,7 +13,7 @@ PositionalOptionsParser::PositionalOptionsParser(EventHandler* handler, Garbage*
 // Only the first positional option is ever filled; the registry keeps its index.
 bool PositionalOptionsParser::recognize(ArgumentList const& args, RegisteredOptionStorage const& storage,
                                         Recognition& found) {
-    std::string const& argument = args[0];
+    std::string_view const argument = args[0];
     internal::trace(m_name, ": recognizing argument '", argument, "'");
     found = Recognition();
     if ((m_flags & FlagNoHyphenPositional) != 0 && !argument.empty() && argument[0] == '-') {
@@ -29,7 +29,7 @@ Status PositionalOptionsParser::parse(ArgumentList& args, Recognition const& fou
     OptionDescription const& option = storage.at(found.option);
     internal::trace(m_name, ": option is '", option.primaryName(), "'");
     for (;;) {
-        std::string value = args[0];
+        std::string value(args[0]);
         m_handler->onOptionParse(option.primaryName().c_str());
         Status const status = parseValueAndAddOption(value, message, option, args, collector);
         if (status != Status::Ok) {

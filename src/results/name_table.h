@@ -57,7 +57,7 @@ private:
     using Named = std::pair<std::string, Entry>;
 
     static constexpr std::size_t kNoSlot = static_cast<std::size_t>(-1);
-    static constexpr std::size_t kFirstCapacity = 16;
+    static constexpr std::size_t kFirstCapacity = 64;
 
     struct Slot {
         std::uint64_t hash;

@@ -1,49 +1,34 @@
 #include "results/parse_result.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include "options/option_description.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_parser.h"
 #include "recognizers/messages.h"
-#include "values/variant_transfer.h"
 
 namespace quen_3_1 {
 
-ParseResult::ParseResult()
-    : m_valueCursor(0), m_positionCursor(0), m_from(0), m_to(0x7fffffff), m_current(nullptr), m_argumentCursor(0) {}
+ParseResult::ParseResult() : m_from(0), m_to(0x7fffffff), m_current(nullptr), m_argumentCursor(0) {}
 
 void ParseResult::destroy() { delete this; }
 
-namespace {
-
-// Appends copies of `from`. When `to` has to grow, its own entries are moved
-// over with their values handed on, not copied through the memory hooks.
-void appendValues(std::vector<ValueEntry>& to, std::vector<ValueEntry> const& from) {
-    if (to.size() + from.size() > to.capacity()) {
-        std::vector<ValueEntry> grown;
-        grown.reserve(std::max(to.size() + from.size(), 2 * to.capacity()));
-        for (ValueEntry& entry : to) {
-            grown.emplace_back();
-            ValueEntry& moved = grown.back();
-            moved.first.first.swap(entry.first.first);
-            transferVariant(moved.first.second, entry.first.second);
-            moved.second = entry.second;
-        }
-        to.swap(grown);
-    }
-    to.insert(to.end(), from.begin(), from.end());
+int ParseResult::store(OptionDescription const& option, OptionData const& data) {
+    OptionData copy = data;
+    return store(option, copy);
 }
 
-}  // namespace
-
-int ParseResult::store(OptionDescription const& option, OptionData const& data) {
+// The first store of an option finds its primary name new. Only the odd
+// cases, where one occurrence goes to several records, copy the values.
+int ParseResult::store(OptionDescription const& option, OptionData& data) {
     std::vector<std::string> const& names = option.names();
-    NameEntry const* const primary = m_names.find(names.at(0));
-    if (primary == nullptr) {
-        replaceUnderEveryName(names, data);
-    } else if (reachesOnlyItsOwnRecord(names, primary->record)) {
-        appendTimes(m_records[primary->record], data, 1);
+    auto const primary = m_names.findOrAdd(names.at(0), NameEntry{kNoRecord, ValueLog::kEnd});
+    if (primary.second) {
+        replaceUnderEveryName(names, *primary.first, data);
+    } else if (reachesOnlyItsOwnRecord(names, primary.first->record)) {
+        appendTaking(primary.first->record, data);
     } else {
         appendUnderEveryName(names, data);
     }
@@ -71,15 +56,24 @@ bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names,
     return true;
 }
 
-void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data) {
+void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data) {
     std::size_t const id = newRecord();
-    m_records[id].positions = data.m_positions;
-    m_records[id].values = data.m_values;
-    for (std::string const& name : names) {
-        NameEntry& entry = *m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()}).first;
+    appendTaking(id, data);
+    std::uint32_t const kept = keptDefault(data.m_default);
+    point(primary, id);
+    primary.defaultEntry = kept;
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        NameEntry& entry = *m_names.findOrAdd(names[i], NameEntry{kNoRecord, ValueLog::kEnd}).first;
         point(entry, id);
-        entry.defaultEntry = data.m_default;
+        entry.defaultEntry = kept;
     }
+}
+
+// What a recognizer hands over carries no default: nothing is kept for it.
+std::uint32_t ParseResult::keptDefault(ValueEntry const& entry) {
+    bool const none = entry.first.first.empty() && entry.first.second.m_type == tarvo2::vt_empty &&
+                      entry.first.second.m_data == 0 && entry.second == 0;
+    return none ? ValueLog::kEnd : m_log.keep(entry);
 }
 
 // A name appends once per time the declaration lists it. Names that share a
@@ -90,7 +84,7 @@ void ParseResult::appendUnderEveryName(std::vector<std::string> const& names, Op
     std::vector<NameEntry*> listed;
     listed.reserve(names.size());
     for (std::string const& name : names) {
-        listed.push_back(m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()}).first);
+        listed.push_back(m_names.findOrAdd(name, NameEntry{kNoRecord, ValueLog::kEnd}).first);
     }
     std::sort(listed.begin(), listed.end());
     // Each distinct name with the number of times it is listed, by record.
@@ -116,44 +110,60 @@ void ParseResult::appendUnderEveryName(std::vector<std::string> const& names, Op
             ++j;
         }
         if (alike && j - i == m_records[record].names) {
-            appendTimes(m_records[record], data, counted[i].second);
+            appendTimes(record, data, counted[i].second);
         } else {
             for (std::size_t k = i; k < j; ++k) {
                 std::size_t const own = newRecord();
                 if (record != kNoRecord) {
-                    m_records[own].positions = m_records[record].positions;
-                    m_records[own].values = m_records[record].values;
+                    m_log.copyPositions(m_records[record].positions, m_records[own].positions);
+                    m_log.copyValues(m_records[record].values, m_records[own].values);
                 }
                 point(*counted[k].first, own);
-                appendTimes(m_records[own], data, counted[k].second);
+                appendTimes(own, data, counted[k].second);
             }
         }
         i = j;
     }
 }
 
-void ParseResult::appendTimes(Record& record, OptionData const& data, std::size_t times) {
+void ParseResult::appendTimes(std::size_t record, OptionData const& data, std::size_t times) {
+    Record& to = m_records[record];
     for (std::size_t i = 0; i < times; ++i) {
-        record.positions.insert(record.positions.end(), data.m_positions.begin(), data.m_positions.end());
-        appendValues(record.values, data.m_values);
+        for (std::int32_t const position : data.m_positions) {
+            m_log.addPosition(to.positions, position);
+        }
+        for (ValueEntry const& value : data.m_values) {
+            m_log.addValue(to.values, value);
+        }
     }
 }
 
+void ParseResult::appendTaking(std::size_t record, OptionData& data) {
+    Record& to = m_records[record];
+    for (std::int32_t const position : data.m_positions) {
+        m_log.addPosition(to.positions, position);
+    }
+    for (ValueEntry& value : data.m_values) {
+        m_log.takeValue(to.values, value);
+    }
+}
+
+// A result starts with room for the records of a short command line.
 std::size_t ParseResult::newRecord() {
+    constexpr std::size_t kFirstRecords = 16;
+    if (m_records.empty()) {
+        m_records.reserve(kFirstRecords);
+    }
     m_records.emplace_back();
     return m_records.size() - 1;
 }
 
-// A record no name reaches any more gives its memory back.
 void ParseResult::point(NameEntry& entry, std::size_t record) {
     if (entry.record == record) {
         return;
     }
     if (entry.record != kNoRecord) {
-        Record& left = m_records[entry.record];
-        if (--left.names == 0) {
-            left = Record();
-        }
+        --m_records[entry.record].names;
     }
     entry.record = record;
     ++m_records[record].names;
@@ -174,16 +184,16 @@ Status ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& 
                 message = recognizer_messages::numbersExhausted();
                 return Status::NumbersExhausted;
             }
-            auto const placed = m_names.findOrAdd(name, NameEntry{kNoRecord, ValueEntry()});
+            auto const placed = m_names.findOrAdd(name, NameEntry{kNoRecord, ValueLog::kEnd});
             NameEntry& entry = *placed.first;
             if (placed.second) {
                 shared = shared == kNoRecord ? newRecord() : shared;
                 point(entry, shared);
             }
-            ValueEntry& kept = entry.defaultEntry;
-            kept.first.first = option.toString(option.garbage(), option.getDefault());
-            kept.first.second = option.getDefault();
-            kept.second = number;
+            ValueEntry const kept(std::make_pair(std::string(option.toString(option.garbage(), option.getDefault())),
+                                                 option.getDefault()),
+                                  number);
+            entry.defaultEntry = m_log.keep(kept);
         }
     }
     return Status::Ok;

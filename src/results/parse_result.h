@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "results/name_table.h"
 #include "results/option_data.h"
 #include "results/result_collector.h"
+#include "results/value_log.h"
 #include "values/garbage.h"
 
 namespace quen_3_1 {
@@ -41,7 +41,9 @@ public:
     // The first store of an option (its first name unknown) replaces the data
     // under every name; later stores append under every name, once per time
     // the name is listed. Returns 0.
-    int store(OptionDescription const& option, OptionData const& data) override;
+    int store(OptionDescription const& option, OptionData& data) override;
+    // The same with the values copied.
+    int store(OptionDescription const& option, OptionData const& data);
     // Sets the default entry of every option that has one, one sequence number
     // per name. NumbersExhausted, with `message` set, when the numbers run
     // out; the defaults set before stay.
@@ -58,14 +60,14 @@ public:
     // The occurrences and values of one option, shared by the names that
     // have seen the same stores.
     struct Record {
-        std::vector<std::int32_t> positions;  // occurrence numbers, in store order
-        std::vector<ValueEntry> values;       // values of all occurrences, in store order
-        std::size_t names = 0;                // names that reach this record
+        ValueLog::Chain positions;  // occurrence numbers, in store order
+        ValueLog::Chain values;     // values of all occurrences, in store order
+        std::size_t names = 0;      // names that reach this record
     };
     // What one name reaches: its option's record and its own default.
     struct NameEntry {
         std::size_t record;
-        ValueEntry defaultEntry;  // applied default; empty text when none
+        std::uint32_t defaultEntry;  // in the log; ValueLog::kEnd when none was stored
     };
     // Nothing depends on the order of the names, so a hash table serves; its
     // entries stay in place when it grows, which m_current relies on.
@@ -73,22 +75,34 @@ public:
 
     NameMap const& names() const { return m_names; }
     Record const& record(std::size_t id) const { return m_records[id]; }
+    ValueLog const& log() const { return m_log; }
     std::vector<std::pair<std::string, std::int32_t>> const& arguments() const { return m_arguments; }
 
 private:
     static constexpr std::size_t kNoRecord = static_cast<std::size_t>(-1);
 
+    // Where an iteration over one chain of the current record stands: how
+    // many entries it has passed and the last of them. Stores only append,
+    // so the entry after `last` is the next one even when stores came in
+    // between; a name pointed at another record meanwhile is walked again
+    // from the start of its new record.
+    struct Cursor {
+        std::size_t passed = 0;
+        std::uint32_t last = ValueLog::kEnd;
+        std::size_t record = kNoRecord;
+    };
+
     bool reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const;
-    void replaceUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
+    void replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data);
     void appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
-    static void appendTimes(Record& record, OptionData const& data, std::size_t times);
+    void appendTimes(std::size_t record, OptionData const& data, std::size_t times);
+    void appendTaking(std::size_t record, OptionData& data);
+    std::uint32_t keptDefault(ValueEntry const& entry);
     std::size_t newRecord();
     void point(NameEntry& entry, std::size_t record);
     Record const& currentRecord() const { return m_records[m_current->record]; }
     // The current name has a default and its option no occurrence.
-    bool onlyDefault() const {
-        return currentRecord().positions.empty() && !m_current->defaultEntry.first.first.empty();
-    }
+    bool onlyDefault() const;
 
     bool hasCurrent() const { return m_current != nullptr; }
     template <class Query>
@@ -97,12 +111,21 @@ private:
     int readNext(char const** text, tarvo2::variant_t& value, int& number);
     int nextValue(char const** text, tarvo2::variant_t& value, int& number);
     int nextOccurrence(int& number);
+    void restart(Cursor& cursor) const { cursor = Cursor{0, ValueLog::kEnd, m_current->record}; }
+    // The entry after the cursor in `chain` of the current record; kEnd at the end.
+    std::uint32_t upcomingPosition(Cursor& cursor) const;
+    std::uint32_t upcomingValue(Cursor& cursor) const;
+    static void pass(Cursor& cursor, std::uint32_t entry) {
+        ++cursor.passed;
+        cursor.last = entry;
+    }
 
     NameMap m_names;
-    // Records never move; one left without names is emptied.
-    std::deque<Record> m_records;
-    std::size_t m_valueCursor;
-    std::size_t m_positionCursor;
+    // Records are never removed; one left without names is no longer reached.
+    std::vector<Record> m_records;
+    ValueLog m_log;
+    Cursor m_valueCursor;
+    Cursor m_positionCursor;
     std::int32_t m_from;
     std::int32_t m_to;
     NameEntry* m_current;  // null when the last lookup failed

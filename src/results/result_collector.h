@@ -9,8 +9,9 @@ struct OptionData;
 // What recognizers deliver finished option occurrences to.
 class IResultCollector {
 public:
-    // Stores one occurrence of `option`. Returns 0.
-    virtual int store(OptionDescription const& option, OptionData const& data) = 0;
+    // Stores one occurrence of `option`, taking the converted values out of
+    // `data` (they are left empty) instead of copying them. Returns 0.
+    virtual int store(OptionDescription const& option, OptionData& data) = 0;
 
 protected:
     ~IResultCollector() = default;

@@ -32,18 +32,20 @@ int ParseResult::get(std::string_view name, char const** text, tarvo2::variant_t
         if (!hasCurrent()) {
             return 1;
         }
-        m_valueCursor = 0;
-        m_positionCursor = 0;
+        restart(m_valueCursor);
+        restart(m_positionCursor);
         if (onlyDefault()) {
             return readDefault(text, value, number);
         }
-        std::vector<std::int32_t> const& positions = currentRecord().positions;
-        while (m_positionCursor < positions.size() &&
-               !(from <= positions[m_positionCursor] && positions[m_positionCursor] < to)) {
-            ++m_positionCursor;
-        }
-        if (m_positionCursor == positions.size()) {
-            return 1;
+        for (std::uint32_t at = upcomingPosition(m_positionCursor);; at = upcomingPosition(m_positionCursor)) {
+            if (at == ValueLog::kEnd) {
+                return 1;
+            }
+            std::int32_t const position = m_log.position(at).number;
+            if (from <= position && position < to) {
+                break;
+            }
+            pass(m_positionCursor, at);
         }
         return text == nullptr ? 0 : readNext(text, value, number);
     } catch (std::exception const&) {
@@ -59,13 +61,19 @@ int ParseResult::next(std::string const& /*name*/, char const** text, tarvo2::va
     }
 }
 
+bool ParseResult::onlyDefault() const {
+    std::uint32_t const entry = m_current->defaultEntry;
+    return currentRecord().positions.empty() && entry != ValueLog::kEnd &&
+           !ValueLog::textOf(m_log.value(entry)).empty();
+}
+
 int ParseResult::readDefault(char const** text, tarvo2::variant_t& value, int& number) {
-    ValueEntry const& entry = m_current->defaultEntry;
+    ValueLog::Stored const& entry = m_log.value(m_current->defaultEntry);
     if (text != nullptr) {
-        *text = m_garbage.keep(entry.first.first);
+        *text = entry.text;
     }
-    value = entry.first.second;
-    number = entry.second;
+    assignPayload(value, entry.value);
+    number = entry.number;
     return 0;
 }
 
@@ -89,31 +97,60 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
     return nextOccurrence(number);
 }
 
+std::uint32_t ParseResult::upcomingPosition(Cursor& cursor) const {
+    Record const& record = currentRecord();
+    if (cursor.record != m_current->record) {
+        std::size_t const passed = cursor.passed;
+        cursor = Cursor{0, ValueLog::kEnd, m_current->record};
+        for (std::uint32_t at = record.positions.first; cursor.passed < passed && at != ValueLog::kEnd;
+             at = m_log.position(at).next) {
+            pass(cursor, at);
+        }
+    }
+    return cursor.last == ValueLog::kEnd ? record.positions.first : m_log.position(cursor.last).next;
+}
+
+std::uint32_t ParseResult::upcomingValue(Cursor& cursor) const {
+    Record const& record = currentRecord();
+    if (cursor.record != m_current->record) {
+        std::size_t const passed = cursor.passed;
+        cursor = Cursor{0, ValueLog::kEnd, m_current->record};
+        for (std::uint32_t at = record.values.first; cursor.passed < passed && at != ValueLog::kEnd;
+             at = m_log.value(at).next) {
+            pass(cursor, at);
+        }
+    }
+    return cursor.last == ValueLog::kEnd ? record.values.first : m_log.value(cursor.last).next;
+}
+
 // The upper bound is included for values, unlike for occurrences.
 int ParseResult::nextValue(char const** text, tarvo2::variant_t& value, int& number) {
-    std::vector<ValueEntry> const& values = currentRecord().values;
-    while (m_valueCursor < values.size() && values[m_valueCursor].second < m_from) {
-        ++m_valueCursor;
+    std::uint32_t at = upcomingValue(m_valueCursor);
+    while (at != ValueLog::kEnd && m_log.value(at).number < m_from) {
+        pass(m_valueCursor, at);
+        at = upcomingValue(m_valueCursor);
     }
-    if (m_valueCursor == values.size() || values[m_valueCursor].second > m_to) {
+    if (at == ValueLog::kEnd || m_log.value(at).number > m_to) {
         return 1;
     }
-    ValueEntry const& entry = values[m_valueCursor++];
+    ValueLog::Stored const& entry = m_log.value(at);
     if (text != nullptr) {
-        *text = m_garbage.keep(entry.first.first);
+        *text = entry.text;
     }
-    value = entry.first.second;
-    number = entry.second;
+    assignPayload(value, entry.value);
+    number = entry.number;
+    pass(m_valueCursor, at);
     return 0;
 }
 
 // Options without values yield their occurrence numbers, past the range too.
 int ParseResult::nextOccurrence(int& number) {
-    std::vector<std::int32_t> const& positions = currentRecord().positions;
-    if (m_positionCursor >= positions.size()) {
+    std::uint32_t const at = upcomingPosition(m_positionCursor);
+    if (at == ValueLog::kEnd) {
         return 1;
     }
-    number = positions[m_positionCursor++];
+    number = m_log.position(at).number;
+    pass(m_positionCursor, at);
     return 0;
 }
 
@@ -172,11 +209,12 @@ int ParseResult::nextPosition() {
     if (!hasCurrent()) {
         return kNoNumber;
     }
-    std::vector<std::int32_t> const& positions = currentRecord().positions;
-    if (m_positionCursor >= positions.size()) {
+    std::uint32_t const at = upcomingPosition(m_positionCursor);
+    if (at == ValueLog::kEnd) {
         return kNoNumber;
     }
-    return positions[m_positionCursor++];
+    pass(m_positionCursor, at);
+    return m_log.position(at).number;
 }
 
 int ParseResult::getFirstArgument(std::string& text) {

@@ -20,6 +20,13 @@ std::size_t separatorsIn(char const* data, std::size_t size, char separator) {
 
 // `data[size]` is the terminating NUL, which a trailing separator's piece holds.
 void splitTerminated(char const* data, std::size_t size, char separator, std::vector<std::string>& out) {
+    // Most texts hold no separator at all: they are their own single piece.
+    if (std::memchr(data, separator, size) == nullptr) {
+        if (size != 0) {
+            out.emplace_back(data, size);
+        }
+        return;
+    }
     // Each separator ends at most one piece: one allocation for a new list. A
     // list appended to keeps its geometric growth.
     if (out.empty()) {

@@ -85,7 +85,7 @@ class RecordingCollector final : public IResultCollector {
 public:
     explicit RecordingCollector(ParseResult* target) : m_target(target) {}
 
-    int store(OptionDescription const& option, OptionData const& data) override {
+    int store(OptionDescription const& option, OptionData& data) override {
         options.push_back(&option);
         stored.push_back(data);
         return m_target->store(option, data);

@@ -354,7 +354,7 @@ TEST_F(ParseResultStoreTest, EveryNameReachesTheOneRecordOfItsOption) {
     std::size_t const record = m_result.names().at("alpha").record;
     EXPECT_EQ(m_result.names().at("a").record, record);
     EXPECT_EQ(m_result.record(record).names, 2u);
-    EXPECT_EQ(textsOf(m_result.record(record).values), std::vector<std::string>({"v", "w"}));
+    EXPECT_EQ(textsOf(at("alpha").m_values), std::vector<std::string>({"v", "w"}));
 }
 
 TEST_F(ParseResultStoreTest, NameListedTwiceGetsARecordOfItsOwn) {
@@ -375,6 +375,22 @@ TEST_F(ParseResultStoreTest, SynonymOfAnotherOptionFollowsTheLastFirstStore) {
     EXPECT_EQ(textsOf(at("x").m_values), std::vector<std::string>({"b", "c"}));
     EXPECT_EQ(textsOf(at("x2").m_values), std::vector<std::string>({"a", "c"}));
     EXPECT_EQ(textsOf(at("y").m_values), std::vector<std::string>({"b"}));
+}
+
+TEST_F(ParseResultStoreTest, IterationGoesOnWithValuesStoredAfterItsEnd) {
+    OptionDescription const option({"alpha"}, "g", "", "An option", tarvo2::vt_str, &m_garbage);
+    m_result.store(option, occurrence(1, {entry("v", tarvo2::variant_t("v"), 2)}));
+    char const* text = nullptr;
+    tarvo2::variant_t value;
+    int number = 0;
+    ASSERT_EQ(m_result.get("alpha", &text, value, 0, 0x7fffffff, number), 0);
+    EXPECT_STREQ(text, "v");
+    EXPECT_EQ(m_result.next("alpha", &text, value, number), 1);
+    m_result.store(option, occurrence(3, {entry("w", tarvo2::variant_t("w"), 4)}));
+    ASSERT_EQ(m_result.next("alpha", &text, value, number), 0);
+    EXPECT_STREQ(text, "w");
+    EXPECT_EQ(number, 4);
+    EXPECT_EQ(m_result.next("alpha", &text, value, number), 1);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,7 @@ std::string traceOf(Body body) {
 inline std::vector<std::string> remaining(quen_3_1::ArgumentList const& args) {
     std::vector<std::string> rest;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        rest.push_back(args[i]);
+        rest.emplace_back(args[i]);
     }
     return rest;
 }
@@ -67,10 +68,17 @@ public:
     quen_3_1::OptionData at(std::string const& name) const {
         quen_3_1::ParseResult::NameEntry const& entry = m_result.names().at(name);
         quen_3_1::ParseResult::Record const& record = m_result.record(entry.record);
+        quen_3_1::ValueLog const& log = m_result.log();
         quen_3_1::OptionData data;
-        data.m_positions = record.positions;
-        data.m_values = record.values;
-        data.m_default = entry.defaultEntry;
+        for (std::uint32_t at = record.positions.first; at != quen_3_1::ValueLog::kEnd; at = log.position(at).next) {
+            data.m_positions.push_back(log.position(at).number);
+        }
+        for (std::uint32_t at = record.values.first; at != quen_3_1::ValueLog::kEnd; at = log.value(at).next) {
+            data.m_values.push_back(log.entryAt(at));
+        }
+        if (entry.defaultEntry != quen_3_1::ValueLog::kEnd) {
+            data.m_default = log.entryAt(entry.defaultEntry);
+        }
         return data;
     }
     std::size_t count(std::string const& name) const { return m_result.names().count(name); }
