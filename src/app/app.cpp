@@ -52,19 +52,17 @@ App& App::envPrefix(std::string prefix) {
 
 template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
-    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
+    auto bound = m_state->m_arena.make<app_detail::BoundOption<T>>(target);
     Option<T>& handle = bound->handle();
-    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
-    m_state->add(std::move(names), std::move(help), false, std::move(state));
+    m_state->add(std::move(names), std::move(help), false, app_detail::OptionHandle(bound.release()));
     return handle;
 }
 
 template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
-    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
+    auto bound = m_state->m_arena.make<app_detail::BoundOption<T>>(target);
     Option<T>& handle = bound->handle();
-    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
-    m_state->add(std::move(name), std::move(help), true, std::move(state));
+    m_state->add(std::move(name), std::move(help), true, app_detail::OptionHandle(bound.release()));
     return handle;
 }
 

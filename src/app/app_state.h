@@ -11,6 +11,7 @@
 
 #include "app/name_list.h"
 #include "app/name_table.h"
+#include "app/option_arena.h"
 #include "app/option_state.h"
 #include "quen_3_1/app.h"
 
@@ -23,6 +24,9 @@ struct FileOption {
     // How many options were declared before it: the help lists it among them in that order.
     std::size_t position;
 };
+
+// A declaration, in its App's arena.
+using OptionHandle = OptionArena::Handle<OptionState>;
 
 struct ExclusiveGroup {
     std::vector<std::string> names;
@@ -37,7 +41,7 @@ public:
 
     // Declares an option or positional; a refused one is kept aside, so that the
     // host may still refine what it got back.
-    void add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state);
+    void add(std::string names, std::string help, bool positional, OptionHandle state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);
@@ -59,13 +63,15 @@ public:
     // The first declaration mistake of this App or of its commands, or empty.
     std::string mistake() const;
 
+    // First: it outlives the declarations it holds.
+    OptionArena m_arena;
     std::string m_program;
     std::string m_about;
     std::string m_name;  // the command name, for a command
     std::string m_version;
     std::string m_epilog;
     std::string m_envPrefix;
-    std::vector<std::unique_ptr<OptionState>> m_options;
+    std::vector<OptionHandle> m_options;
     std::vector<FileOption> m_files;
     std::vector<std::unique_ptr<App>> m_commands;
     std::vector<ExclusiveGroup> m_exclusive;
@@ -80,7 +86,7 @@ private:
 
     // Shared with the results of earlier parses: copied before it changes.
     std::shared_ptr<NameTable> m_names;
-    std::vector<std::unique_ptr<OptionState>> m_refused;
+    std::vector<OptionHandle> m_refused;
     std::string m_mistake;
     // A flag's no- form of a name, built here to be looked up.
     std::string m_negated;
