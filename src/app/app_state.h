@@ -39,9 +39,9 @@ public:
 
     AppState(std::string program, std::string about);
 
-    // Declares an option or positional; a refused one is kept aside, so that the
-    // host may still refine what it got back.
-    void add(std::string names, std::string help, bool positional, OptionHandle state);
+    // Declares an option or positional (its help copied into the arena); a refused one is
+    // kept aside, so that the host may still refine what it got back.
+    void add(std::string names, std::string_view help, bool positional, OptionHandle state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);

@@ -88,7 +88,7 @@ void CoreSession::build(bool shells) {
 }
 
 void CoreSession::registerOption(OptionState const& option) {
-    IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
+    IOption* declared = m_parser->option(option.namesText().c_str(), option.help(), option.binding().kind(),
                                          option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
     option.binding().describe(*declared);

@@ -1,5 +1,5 @@
-// Room for an App's declarations: a few blocks, each holding several of them,
-// instead of one allocation per declaration. A declaration stays where it was
+// Room for an App's declarations and their help texts: a few blocks, each
+// holding several of them, instead of one allocation per declaration. A declaration stays where it was
 // made (the host holds a reference to its Option) until the App goes.
 #ifndef QUEN_3_1_SRC_APP_OPTION_ARENA_H
 #define QUEN_3_1_SRC_APP_OPTION_ARENA_H
@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <memory>
 #include <new>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -33,6 +34,14 @@ public:
     Handle<T> make(Args&&... args) {
         static_assert(alignof(T) <= alignof(std::max_align_t), "the blocks are aligned for any scalar");
         return Handle<T>(new (allocate(sizeof(T))) T(std::forward<Args>(args)...));
+    }
+
+    // A copy of `text`, ended by a NUL, that lives as long as the arena.
+    char const* copy(std::string_view text) {
+        auto* const room = static_cast<char*>(allocate(text.size() + 1));
+        text.copy(room, text.size());
+        room[text.size()] = '\0';
+        return room;
     }
 
 private:
