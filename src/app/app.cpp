@@ -102,7 +102,7 @@ Result App::parse(int argc, char const* const* argv) {
     try {
         app_detail::parseProgram(*m_state, app_detail::argumentsOf(argc, argv), *data);
     } catch (std::exception const& caught) {
-        *data = app_detail::ResultData();
+        data = std::make_shared<app_detail::ResultData>();
         data->m_done = true;
         data->m_exitCode = app_detail::kDeclarationExitCode;
         data->m_message = app_detail::text::errorLine(m_state->m_program, caught.what());
