@@ -71,9 +71,15 @@ int const kMostExactPower = 22;
 // Fewer significant digits than this make a whole number that a double holds exactly.
 int const kExactDigits = 16;
 
+// strtod reads the decimal point of the locale; the short path only knows '.'.
+bool pointIsDot() {
+    char const* const point = std::localeconv()->decimal_point;
+    return point[0] == '.' && point[1] == '\0';
+}
+
 // A decimal text of few digits, read without strtod: its digits as a whole number and a power
-// of ten, both exact in a double, so that one multiplication or division rounds once, as
-// strtod does. False (and nothing set) for every other text, which strtod then reads.
+// of ten, both exact in a double, so that one division rounds once, as strtod does. False (and
+// nothing set) for every other text, which strtod then reads.
 bool readShortDecimal(std::string_view text, double& out) {
     bool const hasSign = !text.empty() && (text[0] == '-' || text[0] == '+');
     bool const negative = hasSign && text[0] == '-';
@@ -96,18 +102,12 @@ bool readShortDecimal(std::string_view text, double& out) {
             return false;
         }
     }
-    if (!any || at != text.size() || scale < -kMostExactPower) {
+    if (!any || at != text.size() || scale < -kMostExactPower || (point && !pointIsDot())) {
         return false;
     }
     double const value = static_cast<double>(digits) / kExactPowers[-scale];
     out = negative ? -value : value;
     return true;
-}
-
-// strtod reads the decimal point of the locale; the short path only knows '.'.
-bool pointIsDot() {
-    char const* const point = std::localeconv()->decimal_point;
-    return point[0] == '.' && point[1] == '\0';
 }
 
 bool readUnsigned(std::string const& text, int base, unsigned long long& out) {
@@ -166,12 +166,13 @@ bool readWhole(std::string const& text, unsigned long long& out) {
 }
 
 bool readWhole(std::string const& text, double& out) {
+    // What the short path takes is made of number characters only.
+    if (readShortDecimal(text, out)) {
+        return true;
+    }
     // No blanks, hexadecimal, "inf" or "nan": only what a decimal number is made of.
     if (!allOf(text, isNumberCharacter)) {
         return false;
-    }
-    if (pointIsDot() && readShortDecimal(text, out)) {
-        return true;
     }
     char* end = nullptr;
     errno = 0;
