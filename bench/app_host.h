@@ -13,11 +13,14 @@
 
 namespace qbench {
 
-// One variable per option; only the one of the option's kind is bound.
+// One variable per option; only the one of the option's kind is bound. Widest
+// first: at 48 bytes the workload's twenty fit in a block that the allocator
+// serves from its small lists (below 1,024 bytes), as a program's variables on
+// its stack cost no allocation at all.
 struct Slot {
-    int integer = 0;
-    double real = 0;
     std::string text;
+    double real = 0;
+    int integer = 0;
     bool flag = false;
 };
 

@@ -80,10 +80,16 @@ public:
     // An option bound to a variable; its value before parsing is the default.
     template <class T, class = app_detail::IfBindable<T>>
     Option<T>& option(std::string names, T& target, std::string help);
+    // The same; a help text written in place (a literal) is copied without a std::string
+    // of its own. Null is taken as empty.
+    template <class T, class = app_detail::IfBindable<T>>
+    Option<T>& option(std::string names, T& target, char const* help);
 
     // A positional argument; filled in declaration order, a std::vector takes the rest.
     template <class T, class = app_detail::IfBindable<T>>
     Option<T>& positional(std::string name, T& target, std::string help);
+    template <class T, class = app_detail::IfBindable<T>>
+    Option<T>& positional(std::string name, T& target, char const* help);
 
     // An option whose values are option-text files, read before the command line.
     App& optionsFile(std::string names, std::string help);
@@ -197,15 +203,24 @@ private:
 #define QUEN_APP_EXTERN_TYPE(T)                                                                                     \
     extern template class Option<T>;                                                                                \
     extern template Option<T>& App::option<T>(std::string, T&, std::string);                                        \
+    extern template Option<T>& App::option<T>(std::string, T&, char const*);                                        \
     extern template Option<T>& App::positional<T>(std::string, T&, std::string);                                    \
+    extern template Option<T>& App::positional<T>(std::string, T&, char const*);                                    \
     extern template class Option<std::optional<T>>;                                                                 \
     extern template Option<std::optional<T>>& App::option<std::optional<T>>(std::string, std::optional<T>&,         \
                                                                             std::string);                           \
+    extern template Option<std::optional<T>>& App::option<std::optional<T>>(std::string, std::optional<T>&,         \
+                                                                            char const*);                           \
     extern template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&,     \
                                                                                 std::string);                       \
+    extern template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&,     \
+                                                                                char const*);                       \
     extern template class Option<std::vector<T>>;                                                                   \
     extern template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, std::string); \
-    extern template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, std::string);
+    extern template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, char const*); \
+    extern template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&,           \
+                                                                            std::string);                           \
+    extern template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, char const*);
 QUEN_APP_EXTERN_TYPE(bool)
 QUEN_APP_EXTERN_TYPE(int)
 QUEN_APP_EXTERN_TYPE(unsigned)

@@ -2,6 +2,7 @@
 #include "quen_3_1/app.h"
 
 #include <exception>
+#include <string_view>
 #include <utility>
 
 #include "app/app_state.h"
@@ -24,6 +25,18 @@ Arguments argumentsOf(int argc, char const* const* argv) {
         args.push_back(argv[i] == nullptr ? "" : argv[i]);
     }
     return args;
+}
+
+// A null help is taken as empty.
+std::string_view textOf(char const* help) { return help == nullptr ? std::string_view() : std::string_view(help); }
+
+// The binding and the declaration made in the App's arena; the help is copied there too.
+template <class T>
+Option<T>& declareBound(AppState& app, std::string names, T& target, std::string_view help, bool positional) {
+    auto bound = app.m_arena.make<BoundOption<T>>(target);
+    Option<T>& handle = bound->handle();
+    app.add(std::move(names), help, positional, OptionHandle(bound.release()));
+    return handle;
 }
 
 }  // namespace
@@ -52,20 +65,22 @@ App& App::envPrefix(std::string prefix) {
 
 template <class T, class>
 Option<T>& App::option(std::string names, T& target, std::string help) {
-    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
-    Option<T>& handle = bound->handle();
-    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
-    m_state->add(std::move(names), std::move(help), false, std::move(state));
-    return handle;
+    return app_detail::declareBound(*m_state, std::move(names), target, help, false);
+}
+
+template <class T, class>
+Option<T>& App::option(std::string names, T& target, char const* help) {
+    return app_detail::declareBound(*m_state, std::move(names), target, app_detail::textOf(help), false);
 }
 
 template <class T, class>
 Option<T>& App::positional(std::string name, T& target, std::string help) {
-    auto bound = std::make_unique<app_detail::BoundOption<T>>(target);
-    Option<T>& handle = bound->handle();
-    std::unique_ptr<app_detail::OptionState> state = std::move(bound);
-    m_state->add(std::move(name), std::move(help), true, std::move(state));
-    return handle;
+    return app_detail::declareBound(*m_state, std::move(name), target, help, true);
+}
+
+template <class T, class>
+Option<T>& App::positional(std::string name, T& target, char const* help) {
+    return app_detail::declareBound(*m_state, std::move(name), target, app_detail::textOf(help), true);
 }
 
 App& App::optionsFile(std::string names, std::string help) {
@@ -87,7 +102,7 @@ Result App::parse(int argc, char const* const* argv) {
     try {
         app_detail::parseProgram(*m_state, app_detail::argumentsOf(argc, argv), *data);
     } catch (std::exception const& caught) {
-        *data = app_detail::ResultData();
+        data = std::make_shared<app_detail::ResultData>();
         data->m_done = true;
         data->m_exitCode = app_detail::kDeclarationExitCode;
         data->m_message = app_detail::text::errorLine(m_state->m_program, caught.what());
@@ -99,11 +114,17 @@ Result App::parse(int argc, char const* const* argv) {
 // NOLINTBEGIN(bugprone-macro-parentheses)
 #define QUEN_APP_INSTANTIATE(T)                                                                                        \
     template Option<T>& App::option<T>(std::string, T&, std::string);                                                  \
+    template Option<T>& App::option<T>(std::string, T&, char const*);                                                  \
     template Option<T>& App::positional<T>(std::string, T&, std::string);                                              \
+    template Option<T>& App::positional<T>(std::string, T&, char const*);                                              \
     template Option<std::optional<T>>& App::option<std::optional<T>>(std::string, std::optional<T>&, std::string);     \
+    template Option<std::optional<T>>& App::option<std::optional<T>>(std::string, std::optional<T>&, char const*);     \
     template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&, std::string); \
+    template Option<std::optional<T>>& App::positional<std::optional<T>>(std::string, std::optional<T>&, char const*); \
     template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, std::string);           \
-    template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, std::string);
+    template Option<std::vector<T>>& App::option<std::vector<T>>(std::string, std::vector<T>&, char const*);           \
+    template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, std::string);       \
+    template Option<std::vector<T>>& App::positional<std::vector<T>>(std::string, std::vector<T>&, char const*);
 QUEN_APP_FOR_EACH_ELEMENT(QUEN_APP_INSTANTIATE)
 #undef QUEN_APP_INSTANTIATE
 // NOLINTEND(bugprone-macro-parentheses)

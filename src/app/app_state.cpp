@@ -19,7 +19,7 @@ std::size_t const kFirstOptions = 16;
 AppState::AppState(std::string program, std::string about)
     : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
-void AppState::add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state) {
+void AppState::add(std::string names, std::string_view help, bool positional, OptionHandle state) {
     NameList const split = NameList::split(names);
     bool const flag = !positional && state->binding().kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
@@ -31,7 +31,7 @@ void AppState::add(std::string names, std::string help, bool positional, std::un
         refuse(text::positionalAfterVector(names));
         ok = false;
     }
-    state->declare(std::move(names), split, std::move(help), positional);
+    state->declare(std::move(names), split, m_arena.copy(help), positional);
     if (!ok) {
         m_refused.push_back(std::move(state));
         return;

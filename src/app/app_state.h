@@ -11,6 +11,7 @@
 
 #include "app/name_list.h"
 #include "app/name_table.h"
+#include "app/option_arena.h"
 #include "app/option_state.h"
 #include "quen_3_1/app.h"
 
@@ -24,6 +25,9 @@ struct FileOption {
     std::size_t position;
 };
 
+// A declaration, in its App's arena.
+using OptionHandle = OptionArena::Handle<OptionState>;
+
 struct ExclusiveGroup {
     std::vector<std::string> names;
     bool required;
@@ -35,9 +39,9 @@ public:
 
     AppState(std::string program, std::string about);
 
-    // Declares an option or positional; a refused one is kept aside, so that the
-    // host may still refine what it got back.
-    void add(std::string names, std::string help, bool positional, std::unique_ptr<OptionState> state);
+    // Declares an option or positional (its help copied into the arena); a refused one is
+    // kept aside, so that the host may still refine what it got back.
+    void add(std::string names, std::string_view help, bool positional, OptionHandle state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);
@@ -59,13 +63,15 @@ public:
     // The first declaration mistake of this App or of its commands, or empty.
     std::string mistake() const;
 
+    // First: it outlives the declarations it holds.
+    OptionArena m_arena;
     std::string m_program;
     std::string m_about;
     std::string m_name;  // the command name, for a command
     std::string m_version;
     std::string m_epilog;
     std::string m_envPrefix;
-    std::vector<std::unique_ptr<OptionState>> m_options;
+    std::vector<OptionHandle> m_options;
     std::vector<FileOption> m_files;
     std::vector<std::unique_ptr<App>> m_commands;
     std::vector<ExclusiveGroup> m_exclusive;
@@ -80,7 +86,7 @@ private:
 
     // Shared with the results of earlier parses: copied before it changes.
     std::shared_ptr<NameTable> m_names;
-    std::vector<std::unique_ptr<OptionState>> m_refused;
+    std::vector<OptionHandle> m_refused;
     std::string m_mistake;
     // A flag's no- form of a name, built here to be looked up.
     std::string m_negated;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/result_data.h"
 #include "quen_3_1/app.h"
 
 namespace quen_3_1::app_detail {
@@ -30,7 +31,7 @@ public:
     // copied only into a reason).
     virtual std::string check(std::string_view option, std::string const& text) const = 0;
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
-    virtual void assign(Entry const* first, Entry const* last) = 0;
+    virtual void assign(TakenValue const* first, TakenValue const* last) = 0;
     // A declaration mistake of the refinements, or empty.
     virtual std::string mistake(std::string const& option) const = 0;
 };

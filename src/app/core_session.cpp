@@ -1,6 +1,9 @@
 #include "app/core_session.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
 #include "app/collector_name.h"
 #include "app/messages.h"
@@ -14,6 +17,17 @@ char const kHiddenGroup[] = "quen_hidden";
 char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
 int const kMaxSuggestions = 3;
+
+// Whether the library may read `argument` as naming the option `name`: after one or two
+// hyphens, up to an '=', a beginning of the name (an empty one included, to be safe).
+bool mayName(std::string_view argument, std::string_view name) {
+    if (argument.size() < 2 || argument[0] != '-') {
+        return false;
+    }
+    std::string_view typed = argument.substr(argument.size() > 2 && argument[1] == '-' ? 2 : 1);
+    typed = typed.substr(0, typed.find('='));
+    return name.compare(0, typed.size(), typed) == 0;
+}
 
 // A result released when it goes out of scope.
 struct ResultHandle {
@@ -30,8 +44,26 @@ struct ResultHandle {
 
 }  // namespace
 
+// Most command lines never name --completion: its shells, which cost the library a value
+// each to keep, are handed to it only for arguments that may name it.
 CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
-    : m_layout(app, m_builtins), m_gate(app, m_layout) {
+    : m_app(app), m_top(top), m_showDefaults(showDefaults), m_layout(app, m_builtins), m_gate(app, m_layout) {
+    build(showDefaults);
+}
+
+CoreSession::~CoreSession() {
+    if (m_parser != nullptr) {
+        m_parser->destroy();
+    }
+}
+
+void CoreSession::build(bool shells) {
+    if (m_parser != nullptr) {
+        m_parser->destroy();
+        m_parser = nullptr;
+    }
+    m_shells = shells;
+    AppState const& app = m_app;
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
         m_parser = nullptr;
@@ -47,31 +79,26 @@ CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
         }
         OptionState const& option = *app.m_options[i];
         if (!option.positional()) {
-            registerOption(option, showDefaults);
+            registerOption(option);
         }
     }
-    registerBuiltins(app, top);
+    registerBuiltins(shells);
     m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
     m_parser->addHandler(&m_gate);
 }
 
-CoreSession::~CoreSession() {
-    if (m_parser != nullptr) {
-        m_parser->destroy();
-    }
-}
-
-void CoreSession::registerOption(OptionState const& option, bool showDefault) {
-    IOption* declared = m_parser->option(option.namesText().c_str(), option.help().c_str(), option.binding().kind(),
+void CoreSession::registerOption(OptionState const& option) {
+    IOption* declared = m_parser->option(option.namesText().c_str(), option.help(), option.binding().kind(),
                                          option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
     option.binding().describe(*declared);
-    if (showDefault) {
+    if (m_showDefaults) {
         option.binding().showDefault(*declared);
     }
 }
 
-void CoreSession::registerBuiltins(AppState const& app, bool top) {
+void CoreSession::registerBuiltins(bool shells) {
+    AppState const& app = m_app;
     if (!app.isTaken("help")) {
         m_builtins.help = "help";
         m_parser->option(app.isTaken("h") ? "help" : "help,h", text::kHelpDescription, tarvo2::vt_empty, "");
@@ -80,18 +107,29 @@ void CoreSession::registerBuiltins(AppState const& app, bool top) {
         m_builtins.version = "version";
         m_parser->option("version", text::kVersionDescription, tarvo2::vt_empty, "");
     }
-    if (top && !app.isTaken("completion")) {
+    if (m_top && !app.isTaken("completion")) {
         m_builtins.completion = "completion";
         IOption* option = m_parser->option("completion", text::kCompletionDescription, tarvo2::vt_str, "");
         option->tokenize(0);
-        for (char const* shell : kShells) {
-            option->allowValue(tarvo2::variant_t(shell));
+        for (std::size_t i = 0; shells && i < std::size(kShells); ++i) {
+            option->allowValue(tarvo2::variant_t(kShells[i]));
         }
+    }
+}
+
+void CoreSession::fit(Arguments const& args) {
+    if (m_shells || m_builtins.completion.empty()) {
+        return;
+    }
+    std::string_view const completion = m_builtins.completion;
+    if (std::any_of(args.begin(), args.end(), [&](char const* arg) { return mayName(arg, completion); })) {
+        build(true);
     }
 }
 
 int CoreSession::parse(Arguments const& args, Source source, SourceValues& into, std::vector<std::string>& rest,
                        std::string& error) {
+    fit(args);
     if (m_parser == nullptr) {
         error = "the library could not make a parser";
         return 3;

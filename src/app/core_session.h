@@ -45,9 +45,17 @@ public:
     std::int32_t lastSequence() const { return m_gate.lastSequence(); }
 
 private:
-    void registerOption(OptionState const& option, bool showDefault);
-    void registerBuiltins(AppState const& app, bool top);
+    // A new parser with every option of the App; `shells`: --completion also lists its shells.
+    void build(bool shells);
+    void registerOption(OptionState const& option);
+    void registerBuiltins(bool shells);
+    // The parser that `args` need: one that checks --completion's shells when an argument may name it.
+    void fit(Arguments const& args);
 
+    AppState const& m_app;
+    bool m_top;
+    bool m_showDefaults;
+    bool m_shells = false;
     IParser* m_parser = nullptr;
     BuiltinNames m_builtins;
     SlotLayout m_layout;

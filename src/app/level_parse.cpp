@@ -56,9 +56,11 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
 bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
     // A command's arguments are numbered after everything its parents took.
-    for (Entry const& entry : out.m_entries) {
-        m_session.startAfter(entry.sequence);
+    for (TakenValue const& value : out.m_values) {
+        m_session.startAfter(value.sequence);
     }
+    m_level = static_cast<std::uint32_t>(out.m_levels.size());
+    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), m_app.m_options.size(), false});
     int const code = m_session.parse(args, Source::CommandLine, m_line, m_rest, error);
     m_lineEnd = m_session.lastSequence();
     if (stopAtBuiltin(out)) {
@@ -203,12 +205,11 @@ bool LevelParse::given(std::string const& name) {
     return winner(m_session.layout().option(index)) != nullptr;
 }
 
-// The winners' entries move into the result, each option's together in declaration order:
+// The winners' values move into the result, each option's together in declaration order:
 // counted first, then placed. Nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     SlotLayout const& layout = m_session.layout();
     std::size_t const options = m_app.m_options.size();
-    out.m_levels.push_back(CountedLevel{m_app.sharedNames(), out.m_counts.size(), options});
     auto const taken = [&](SourceValues* source, std::size_t slot) {
         return slot < layout.options() && !m_app.m_options[slot]->positional() && winner(slot) == source;
     };
@@ -220,7 +221,7 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
             }
         }
     }
-    std::size_t const base = out.m_entries.size();
+    std::size_t const base = out.m_values.size();
     out.m_counts.reserve(out.m_counts.size() + options + m_app.m_files.size());
     commits.reserve(commits.size() + options);
     for (std::size_t i = 0; i < options; ++i) {
@@ -232,21 +233,23 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
             commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
         }
     }
-    out.m_entries.resize(base + place[options], Entry{});
+    out.m_values.resize(base + place[options], TakenValue{});
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
         for (SourceValue& value : source->values) {
             if (taken(source, value.slot)) {
-                Entry& entry = out.m_entries[base + place[value.slot]++];
-                entry.name = m_app.m_options[value.slot]->name();
-                entry.text = std::move(value.text);
-                entry.sequence = value.sequence;
-                entry.source = source->source;
+                TakenValue& kept = out.m_values[base + place[value.slot]++];
+                kept.text = std::move(value.text);
+                kept.sequence = value.sequence;
+                kept.source = source->source;
+                kept.level = m_level;
+                kept.option = value.slot;
             }
         }
     }
     for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
         out.m_counts.push_back(m_line.counts[layout.file(j)]);
     }
+    out.m_levels[m_level].counted = true;
 }
 
 bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) {
@@ -271,15 +274,15 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         }
         std::size_t const take =
             option.binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
-        std::size_t const first = out.m_entries.size();
+        std::size_t const first = out.m_values.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
-            Entry entry = plain[next];
+            Entry& entry = plain[next];
             std::string const reason = checkPositional(option, entry.text);
             if (!reason.empty()) {
                 return fail(out, reason);
             }
-            entry.name = option.name();
-            out.m_entries.push_back(std::move(entry));
+            out.m_values.push_back(TakenValue{std::move(entry.text), entry.sequence, entry.source, m_level,
+                                              static_cast<std::uint32_t>(index)});
         }
         m_positionalCounts[index] = take;
         if (take != 0) {
@@ -379,14 +382,14 @@ void parseProgram(AppState& app, Arguments const& args, ResultData& out) {
     std::vector<Commit> commits;
     if (LevelParse(app, app).run(args, out, commits)) {
         for (Commit const& commit : commits) {
-            Entry const* const first = out.m_entries.data() + commit.first;
+            TakenValue const* const first = out.m_values.data() + commit.first;
             commit.binding->assign(first, first + commit.count);
         }
     }
-    auto const bySequence = [](Entry const& a, Entry const& b) { return a.sequence < b.sequence; };
+    auto const bySequence = [](TakenValue const& a, TakenValue const& b) { return a.sequence < b.sequence; };
     // Options given in the order they were declared leave nothing to sort.
-    if (!std::is_sorted(out.m_entries.begin(), out.m_entries.end(), bySequence)) {
-        std::stable_sort(out.m_entries.begin(), out.m_entries.end(), bySequence);
+    if (!std::is_sorted(out.m_values.begin(), out.m_values.end(), bySequence)) {
+        std::stable_sort(out.m_values.begin(), out.m_values.end(), bySequence);
     }
 }
 

@@ -16,7 +16,7 @@
 namespace quen_3_1::app_detail {
 
 // Values for one variable, stored only when the whole parse succeeded: the
-// result's entries [first, first + count), before they are put in order.
+// result's values [first, first + count), before they are put in order.
 struct Commit {
     Binding* binding;
     std::size_t first;
@@ -60,6 +60,8 @@ private:
     std::int32_t m_lineEnd = 0;
     // By option index; only positionals' are set.
     std::vector<std::size_t> m_positionalCounts;
+    // This level's index in the result's levels.
+    std::uint32_t m_level = 0;
 };
 
 // The whole parse of a program: declaration mistakes first, then every level.

@@ -56,6 +56,17 @@ std::uint32_t NameTable::insert(std::string_view name, std::uint32_t id) {
 
 void NameTable::update(std::string_view name, std::uint32_t id) { m_slots[slotOf(name)].id = id; }
 
+// Names are appended to the text as they are inserted: the first is the one placed first.
+std::string_view NameTable::firstNameOf(std::uint32_t id) const {
+    Slot const* first = nullptr;
+    for (Slot const& slot : m_slots) {
+        if (slot.id == id && (first == nullptr || slot.offset < first->offset)) {
+            first = &slot;
+        }
+    }
+    return first == nullptr ? std::string_view() : nameOf(*first);
+}
+
 std::size_t NameTable::slotOf(std::string_view name) const {
     std::size_t const mask = m_slots.size() - 1;
     std::size_t i = hashOf(name) & mask;

@@ -23,6 +23,8 @@ public:
     std::uint32_t insert(std::string_view name, std::uint32_t id);
     // Gives `name`, which is there, the number `id`.
     void update(std::string_view name, std::uint32_t id);
+    // The first name inserted with the number `id` (empty when none has it): a search of every slot.
+    std::string_view firstNameOf(std::uint32_t id) const;
 
 private:
     struct Slot {

@@ -4,11 +4,11 @@
 
 namespace quen_3_1::app_detail {
 
-void OptionState::declare(std::string namesText, NameList names, std::string help, bool positional) {
+void OptionState::declare(std::string namesText, NameList names, char const* help, bool positional) {
     m_namesText = std::move(namesText);
     m_names = names;
     m_name = m_names.empty() ? m_namesText : std::string(nameAt(0));
-    m_help = std::move(help);
+    m_help = help;
     m_positional = positional;
 }
 

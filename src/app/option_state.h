@@ -21,8 +21,8 @@ public:
     virtual ~OptionState() = default;
 
     // Once, when the App takes the declaration.
-    // `names` is `namesText` split (empty when it breaks the rules).
-    void declare(std::string namesText, NameList names, std::string help, bool positional);
+    // `names` is `namesText` split (empty when it breaks the rules); `help` lives as long as the App.
+    void declare(std::string namesText, NameList names, char const* help, bool positional);
 
     std::string const& namesText() const { return m_namesText; }
     std::size_t nameCount() const { return m_names.size(); }
@@ -30,7 +30,7 @@ public:
     // The first name: the one the library reports and events carry (the whole
     // text when it could not be split).
     std::string const& name() const { return m_name; }
-    std::string const& help() const { return m_help; }
+    char const* help() const { return m_help; }
     bool positional() const { return m_positional; }
     virtual Binding& binding() = 0;
     virtual Binding const& binding() const = 0;
@@ -46,7 +46,7 @@ private:
     std::string m_namesText;
     NameList m_names;
     std::string m_name;
-    std::string m_help;
+    char const* m_help = "";
     bool m_positional = false;
 };
 

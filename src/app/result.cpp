@@ -15,9 +15,10 @@ using app_detail::NameTable;
 
 std::size_t const kNotCounted = static_cast<std::size_t>(-1);
 
-// Where `id` of `level` is counted, or kNotCounted (no option there, or a flag's no- form).
+// Where `id` of `level` is counted, or kNotCounted (no option there, a flag's no- form, or a
+// level that stopped before it counted).
 std::size_t countIndex(CountedLevel const& level, std::uint32_t id) {
-    if (id == NameTable::kNone) {
+    if (id == NameTable::kNone || !level.counted) {
         return kNotCounted;
     }
     if (app_detail::name_id::isOption(id)) {
@@ -67,7 +68,7 @@ std::size_t Result::count(std::string const& name) const {
 
 std::vector<std::string> const& Result::rest() const { return m_data->m_rest; }
 
-std::vector<Entry> const& Result::entries() const { return m_data->m_entries; }
+std::vector<Entry> const& Result::entries() const { return m_data->entries(); }
 
 // The first level that has the name says which option it is; every entry under one of
 // that option's names belongs to it.
@@ -78,7 +79,7 @@ std::vector<Entry> Result::entries(std::string const& name) const {
         if (countIndex(level, id) == kNotCounted) {
             continue;
         }
-        for (Entry const& entry : m_data->m_entries) {
+        for (Entry const& entry : m_data->entries()) {
             if (level.names->find(entry.name) == id) {
                 found.push_back(entry);
             }
@@ -87,5 +88,20 @@ std::vector<Entry> Result::entries(std::string const& name) const {
     }
     return found;
 }
+
+namespace app_detail {
+
+std::vector<Entry> const& ResultData::entries() const {
+    std::call_once(m_entriesMade, [this] {
+        m_entries.reserve(m_values.size());
+        for (TakenValue const& value : m_values) {
+            std::string_view const name = m_levels[value.level].names->firstNameOf(value.option);
+            m_entries.push_back(Entry{std::string(name), value.text, value.sequence, value.source});
+        }
+    });
+    return m_entries;
+}
+
+}  // namespace app_detail
 
 }  // namespace quen_3_1

@@ -2,7 +2,9 @@
 #ifndef QUEN_3_1_SRC_APP_RESULT_DATA_H
 #define QUEN_3_1_SRC_APP_RESULT_DATA_H
 
+#include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -18,19 +20,40 @@ struct CountedLevel {
     std::shared_ptr<NameTable const> names;
     std::size_t first;
     std::size_t options;
+    // False while the level's values are not taken (and when its parse stopped before):
+    // only its names serve then, for the entries.
+    bool counted = false;
+};
+
+// One value that took effect: an Entry without its name, which is looked up only when the
+// entries are asked for (the first name of option `option` of level `level`, see name_id.h).
+struct TakenValue {
+    std::string text;
+    std::int32_t sequence;
+    Source source;
+    std::uint32_t level;
+    std::uint32_t option;
 };
 
 class ResultData {
 public:
+    // m_values as entries, made when first asked for (from any thread).
+    std::vector<Entry> const& entries() const;
+
     int m_exitCode = 0;
     bool m_done = false;
     bool m_toStandardOutput = false;
     std::string m_message;
     std::vector<std::string> m_command;
     std::vector<std::string> m_rest;
-    std::vector<Entry> m_entries;
+    std::vector<TakenValue> m_values;
+    // A level is listed once its parse begins (its names name its values).
     std::vector<CountedLevel> m_levels;
     std::vector<std::size_t> m_counts;
+
+private:
+    mutable std::once_flag m_entriesMade;
+    mutable std::vector<Entry> m_entries;
 };
 
 // Exit code of a declaration mistake: an internal software error.

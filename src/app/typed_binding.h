@@ -89,7 +89,7 @@ public:
         }
     }
 
-    void assign(Entry const* first, Entry const* last) override {
+    void assign(TakenValue const* first, TakenValue const* last) override {
         if (first == last) {
             return;
         }

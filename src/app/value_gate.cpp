@@ -20,14 +20,21 @@ void ValueGate::begin(Source source, SourceValues& into, std::size_t arguments) 
     m_refusal.clear();
     m_unknown.clear();
     m_emptyArgument = false;
+    m_lastName = nullptr;
 }
 
-// A value event follows the event of its option: the name is looked up once.
-std::size_t ValueGate::slotOf(std::string_view name) {
-    if (m_lastSlot < m_layout.options() && m_app.m_options[m_lastSlot]->name() == name) {
+// A value event follows the event of its option: the name is looked up once. The library
+// hands both events the same kept text, which it holds until the parser goes; the pointer is
+// forgotten at every begin, so that a parser built again can not mislead it.
+std::size_t ValueGate::slotOf(char const* name) {
+    if (name == m_lastName && name != nullptr) {
         return m_lastSlot;
     }
-    m_lastSlot = m_layout.of(name);
+    std::string_view const text = name == nullptr ? std::string_view() : std::string_view(name);
+    if (m_lastSlot >= m_layout.options() || m_app.m_options[m_lastSlot]->name() != text) {
+        m_lastSlot = m_layout.of(text);
+    }
+    m_lastName = name;
     return m_lastSlot;
 }
 

@@ -37,7 +37,7 @@ public:
     std::int32_t lastSequence() const { return m_lastSequence; }
 
 private:
-    std::size_t slotOf(std::string_view name);
+    std::size_t slotOf(char const* name);
     void record(std::size_t slot, std::string text, std::int32_t sequence);
 
     AppState const& m_app;
@@ -48,6 +48,7 @@ private:
     bool m_emptyArgument = false;
     std::int32_t m_lastSequence = 0;
     std::size_t m_lastSlot = static_cast<std::size_t>(-1);
+    char const* m_lastName = nullptr;
 };
 
 }  // namespace quen_3_1::app_detail

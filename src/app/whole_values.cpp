@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -31,13 +32,82 @@ bool isDecimal(std::string const& text, bool sign) {
     return allOf(std::string_view(text).substr(start), isDigit);
 }
 
+// The digits of `digits` (all of them digits) as a number; false when it does not fit.
+bool readDigits(std::string_view digits, unsigned long long& out) {
+    unsigned long long const most = std::numeric_limits<unsigned long long>::max();
+    unsigned long long value = 0;
+    for (char const c : digits) {
+        auto const digit = static_cast<unsigned>(c - '0');
+        if (value > (most - digit) / 10) {
+            return false;
+        }
+        value = value * 10 + digit;
+    }
+    out = value;
+    return true;
+}
+
+// Read here rather than by strtoll: the text is known to be digits, so only the bounds need care.
 bool readSigned(std::string const& text, long long& out) {
     if (!isDecimal(text, true)) {
         return false;
     }
-    errno = 0;
-    out = std::strtoll(text.c_str(), nullptr, 10);
-    return errno == 0;
+    bool const negative = text[0] == '-';
+    unsigned long long magnitude = 0;
+    auto const largest = static_cast<unsigned long long>(std::numeric_limits<long long>::max());
+    if (!readDigits(std::string_view(text).substr(negative ? 1 : 0), magnitude) ||
+        magnitude > largest + (negative ? 1 : 0)) {
+        return false;
+    }
+    // Negated in unsigned arithmetic: the most negative value has no positive counterpart.
+    out = negative ? static_cast<long long>(0 - magnitude) : static_cast<long long>(magnitude);
+    return true;
+}
+
+// Powers of ten that a double holds exactly.
+double const kExactPowers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                               1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+int const kMostExactPower = 22;
+// Fewer significant digits than this make a whole number that a double holds exactly.
+int const kExactDigits = 16;
+
+// strtod reads the decimal point of the locale; the short path only knows '.'.
+bool pointIsDot() {
+    char const* const point = std::localeconv()->decimal_point;
+    return point[0] == '.' && point[1] == '\0';
+}
+
+// A decimal text of few digits, read without strtod: its digits as a whole number and a power
+// of ten, both exact in a double, so that one division rounds once, as strtod does. False (and
+// nothing set) for every other text, which strtod then reads.
+bool readShortDecimal(std::string_view text, double& out) {
+    bool const hasSign = !text.empty() && (text[0] == '-' || text[0] == '+');
+    bool const negative = hasSign && text[0] == '-';
+    std::size_t at = hasSign ? 1 : 0;
+    unsigned long long digits = 0;
+    int significant = 0;
+    int scale = 0;
+    bool any = false;
+    bool point = false;
+    for (; at < text.size() && (isDigit(text[at]) || (text[at] == '.' && !point)); ++at) {
+        if (text[at] == '.') {
+            point = true;
+            continue;
+        }
+        any = true;
+        significant += digits != 0 || text[at] != '0' ? 1 : 0;
+        digits = digits * 10 + static_cast<unsigned>(text[at] - '0');
+        scale -= point ? 1 : 0;
+        if (significant >= kExactDigits) {
+            return false;
+        }
+    }
+    if (!any || at != text.size() || scale < -kMostExactPower || (point && !pointIsDot())) {
+        return false;
+    }
+    double const value = static_cast<double>(digits) / kExactPowers[-scale];
+    out = negative ? -value : value;
+    return true;
 }
 
 bool readUnsigned(std::string const& text, int base, unsigned long long& out) {
@@ -74,7 +144,7 @@ bool readWhole(std::string const& text, int& out) {
 
 bool readWhole(std::string const& text, unsigned& out) {
     unsigned long long wide = 0;
-    if (!isDecimal(text, false) || !readUnsigned(text, 10, wide) || wide > std::numeric_limits<unsigned>::max()) {
+    if (!isDecimal(text, false) || !readDigits(text, wide) || wide > std::numeric_limits<unsigned>::max()) {
         return false;
     }
     out = static_cast<unsigned>(wide);
@@ -92,10 +162,14 @@ bool readWhole(std::string const& text, unsigned long long& out) {
         allOf(view.substr(0, text.size() - 1), isHexDigit)) {
         return readUnsigned(text.substr(0, text.size() - 1), 16, out);
     }
-    return isDecimal(text, false) && readUnsigned(text, 10, out);
+    return isDecimal(text, false) && readDigits(text, out);
 }
 
 bool readWhole(std::string const& text, double& out) {
+    // What the short path takes is made of number characters only.
+    if (readShortDecimal(text, out)) {
+        return true;
+    }
     // No blanks, hexadecimal, "inf" or "nan": only what a decimal number is made of.
     if (!allOf(text, isNumberCharacter)) {
         return false;

@@ -77,6 +77,35 @@ private:
 
 TEST_F(Completion, UnknownShellIsRefused) { EXPECT_EQ(parseLine(app, {"--completion=tcsh"}).exitCode(), 2); }
 
+// However the option is written, and wherever it comes among the arguments, its
+// shells are checked by the library as for any option with allowed values.
+TEST(CompletionShells, RefusalNamesTheArgumentAndTheShells) {
+    quen_3_1::App app("prog");
+    int jobs = 1;
+    app.option("jobs", jobs, "Workers.");
+    std::string const shells = "Possible values follows: 'bash', 'zsh', 'fish'\n";
+    std::string const tail = "Usage: prog [options]\nTry 'prog --help' for more information.\n";
+    EXPECT_EQ(parseLine(app, {"--jobs=2", "-comp", "tcsh"}).message(),
+              "prog: error: Value validation problem in argument '-comp': Option 'completion' does not allow value "
+              "'tcsh'. " +
+                  shells + tail);
+    EXPECT_EQ(parseLine(app, {"--completion=tcsh", "--nothing"}).message(),
+              "prog: error: Value validation problem in argument '--completion=tcsh': Option 'completion' does not "
+              "allow value 'tcsh'. " +
+                  shells + tail);
+    EXPECT_EQ(jobs, 1);
+}
+
+TEST(CompletionShells, AbbreviatedShellIsTakenWhole) {
+    quen_3_1::App app("prog");
+    quen_3_1::Result const whole = parseLine(app, {"--completion=fish"});
+    quen_3_1::Result const shortened = parseLine(app, {"--co", "fi"});
+    EXPECT_EQ(shortened.exitCode(), 0);
+    EXPECT_TRUE(shortened.done());
+    EXPECT_EQ(shortened.message(), whole.message());
+    EXPECT_NE(whole.message().find("complete"), std::string::npos);
+}
+
 TEST_F(Completion, Bash) {
     std::string const file = script("bash");
     auto const offered = [&](std::string const& words, int index) {

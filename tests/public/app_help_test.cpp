@@ -155,6 +155,42 @@ TEST(HelpOptionsFile, ListedInDeclarationOrder) {
               "                              exit.\n\n");
 }
 
+// A help text handed over as a pointer is the App's own copy: the host's text may go at once.
+TEST(HelpTexts, PointerTextIsCopied) {
+    quen_3_1::App app("prog");
+    int jobs = 2;
+    std::string source;
+    {
+        std::string text = "Workers.";
+        app.option("jobs", jobs, text.c_str());
+        text.assign("Changed after the declaration, then gone.");
+    }
+    app.positional("source", source, std::string("What to read."));
+    EXPECT_EQ(parseLine(app, {"--help"}).message(),
+              "Usage: prog [options] [<source>]\n\n"
+              "Options:\n"
+              "-jobs=<integer> (2)           Workers.\n"
+              "-h, -help                     Print this help and exit.\n"
+              "-completion=bash | zsh | fish Print the completion script for this shell and\n"
+              "                              exit.\n\n"
+              "Arguments:\n"
+              "  [<source>]                  What to read.\n\n");
+}
+
+TEST(HelpTexts, NullTextIsAnEmptyOne) {
+    quen_3_1::App empty("prog");
+    quen_3_1::App null("prog");
+    bool quiet = false;
+    std::string source;
+    empty.option("quiet", quiet, std::string());
+    empty.positional("source", source, std::string());
+    null.option("quiet", quiet, static_cast<char const*>(nullptr));
+    null.positional("source", source, static_cast<char const*>(nullptr));
+    std::string const help = parseLine(empty, {"--help"}).message();
+    EXPECT_EQ(parseLine(null, {"--help"}).message(), help);
+    EXPECT_NE(help.find("[<source>]"), std::string::npos);
+}
+
 TEST(HelpNames, OwnOptionNamedHKeepsItsName) {
     quen_3_1::App app("prog");
     std::string host;

@@ -5,6 +5,7 @@
 #include <quen_3_1/quen.h>
 
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -103,6 +104,47 @@ TEST(ResultEntries, SplitValuesAreOneOccurrence) {
     quen_3_1::Result const result = parseLine(app, {"--size=1,2", "--size=3"});
     EXPECT_EQ(result.count("size"), 2u);
     EXPECT_EQ(result.entries("size").size(), 3u);
+}
+
+TEST(ResultEntries, FailedParseListsWhatItTookByName) {
+    quen_3_1::App app("prog");
+    std::vector<std::string> files;
+    int jobs = 1;
+    app.option("jobs,j", jobs, "Workers.").required();
+    app.positional("files", files, "What.");
+    quen_3_1::Result const result = parseLine(app, {"a", "b"});
+    EXPECT_EQ(result.exitCode(), 2);
+    ASSERT_EQ(result.entries().size(), 2u);
+    EXPECT_EQ(result.entries()[0].name, "files");
+    EXPECT_EQ(result.entries()[1].text, "b");
+    EXPECT_EQ(result.count("files"), 0u);
+    EXPECT_TRUE(result.entries("files").empty());
+    EXPECT_TRUE(files.empty());
+}
+
+// The entries are named when first asked for; threads asking at once see one list.
+TEST(ResultEntries, NamedOnceForEveryThread) {
+    quen_3_1::App app("prog");
+    int jobs = 1;
+    std::vector<std::string> files;
+    app.option("jobs,j", jobs, "Workers.");
+    app.positional("files", files, "What.");
+    quen_3_1::Result const result = parseLine(app, {"-j", "3", "a", "--jobs=4"});
+    std::vector<quen_3_1::Entry const*> seen(4);
+    std::vector<std::thread> threads;
+    for (std::size_t t = 0; t < seen.size(); ++t) {
+        threads.emplace_back([&result, &seen, t] { seen[t] = result.entries().data(); });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    for (quen_3_1::Entry const* first : seen) {
+        EXPECT_EQ(first, result.entries().data());
+    }
+    ASSERT_EQ(result.entries().size(), 3u);
+    EXPECT_EQ(result.entries()[0].name, "jobs");
+    EXPECT_EQ(result.entries()[1].name, "files");
+    EXPECT_EQ(result.entries()[2].text, "4");
 }
 
 TEST(ResultEntries, PositionalsCountedAndListed) {

@@ -140,6 +140,23 @@ TEST_F(Sources, ErrorInFileNamesFileAndLine) {
               "prog: error: Options file '" + third + "', line 2: Unknown option: --nothing\n" + errorTail());
 }
 
+// A file that names --completion is read by a parser that knows the shells: its
+// values land where they belong, and an unknown shell is refused at its line.
+TEST_F(Sources, FileNamingCompletionIsReadWhole) {
+    std::string const path = writeFile("--jobs=9\n--completion=bash\n--mode\nmirror\n");
+    quen_3_1::Result const result = parseLine(app, {"--tag=c", "-f", path});
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(jobs, 9);
+    EXPECT_EQ(mode, "mirror");
+    EXPECT_EQ(tags, (std::vector<std::string>{"c"}));
+    std::string const wrong = writeFile("--jobs=9\n--completion=tcsh\n");
+    EXPECT_EQ(parseLine(app, {"-f", wrong}).message(),
+              "prog: error: Options file '" + wrong +
+                  "', line 2: Value validation problem in argument '--completion=tcsh': Option 'completion' does not "
+                  "allow value 'tcsh'. Possible values follows: 'bash', 'zsh', 'fish'\n" +
+                  errorTail());
+}
+
 TEST_F(Sources, UnreadableFile) {
     std::string const path = testing::TempDir() + "quen_app_no_such_file.txt";
     EXPECT_EQ(parseLine(app, {"-f", path}).message(),

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 #include <quen_3_1/app.h>
 
+#include <cstdlib>
+#include <cstring>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -106,6 +109,58 @@ TEST(WholeNumbers, DoubleRefusesTrailingText) {
     EXPECT_EQ(parseLine(app, {"--ratio=2.5kg"}).message(),
               "prog: error: Option 'ratio' does not take '2.5kg': a finite decimal number is required\n" + errorTail());
     EXPECT_EQ(parseLine(app, {"--ratio=inf"}).exitCode(), 2);
+}
+
+TEST(WholeNumbers, DecimalIsTheNearestDoubleWhateverItsLength) {
+    std::vector<std::string> const texts = {"0.1",
+                                            "-0.0",
+                                            "5.",
+                                            ".5",
+                                            "+2.75",
+                                            "3.14159265358979",
+                                            "1e-3",
+                                            "0.3000000000000000444",
+                                            "123456789012345.6",
+                                            "9007199254740993",
+                                            "0.0000000000000000000001",
+                                            "0.00000000000000000000001",
+                                            "000000000000000000000000000000012.5"};
+    quen_3_1::App app("prog");
+    std::vector<double> ratios;
+    app.option("ratio", ratios, "Shares.");
+    std::vector<std::string> args;
+    for (std::string const& text : texts) {
+        args.push_back("--ratio=" + text);
+    }
+    ASSERT_EQ(parseLine(app, args).exitCode(), 0);
+    ASSERT_EQ(ratios.size(), texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        double const expected = std::strtod(texts[i].c_str(), nullptr);
+        EXPECT_EQ(std::memcmp(&ratios[i], &expected, sizeof expected), 0) << texts[i];
+    }
+}
+
+TEST(WholeNumbers, IntegersKeepTheirBoundsExactly) {
+    quen_3_1::App app("prog");
+    long long wide = 0;
+    unsigned long long mask = 0;
+    unsigned count = 0;
+    app.option("wide", wide, "Wide.");
+    app.option("mask", mask, "Bits.");
+    app.option("count", count, "How many.");
+    EXPECT_EQ(
+        parseLine(app, {"--wide=-9223372036854775808", "--mask=18446744073709551615", "--count=4294967295"}).exitCode(),
+        0);
+    EXPECT_EQ(wide, std::numeric_limits<long long>::min());
+    EXPECT_EQ(mask, std::numeric_limits<unsigned long long>::max());
+    EXPECT_EQ(count, std::numeric_limits<unsigned>::max());
+    EXPECT_EQ(parseLine(app, {"--wide=9223372036854775807"}).exitCode(), 0);
+    EXPECT_EQ(wide, std::numeric_limits<long long>::max());
+    EXPECT_EQ(parseLine(app, {"--wide=9223372036854775808"}).exitCode(), 2);
+    EXPECT_EQ(parseLine(app, {"--wide=-9223372036854775809"}).exitCode(), 2);
+    EXPECT_EQ(parseLine(app, {"--count=4294967296"}).exitCode(), 2);
+    EXPECT_EQ(parseLine(app, {"--wide=-"}).exitCode(), 2);
+    EXPECT_EQ(wide, std::numeric_limits<long long>::max());
 }
 
 TEST(BoundVariables, FlagTakesNameAndNoName) {
