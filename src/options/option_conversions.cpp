@@ -64,13 +64,16 @@ bool extractUnsigned64(char const* text, unsigned long long& out) {
 
 }  // namespace
 
+// A number is handed over, not assigned: the variant's assignment and the
+// temporary's destruction are out-of-line calls for two plain words.
 template <class T>
 bool OperationFromString::execute() {
     T number{};
     if (!extract(text, number)) {
         return false;
     }
-    value = tarvo2::variant_t(number);
+    tarvo2::variant_t converted(number);
+    transferVariant(value, converted);
     return true;
 }
 
@@ -80,7 +83,8 @@ bool OperationFromString::execute<unsigned long long>() {
     if (!extractUnsigned64(text, number)) {
         return false;
     }
-    value = tarvo2::variant_t(number);
+    tarvo2::variant_t converted(number);
+    transferVariant(value, converted);
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "recognizers/argument_parser.h"
 
+#include <utility>
+
 #include "frontend/trace.h"
 #include "options/option_description.h"
 #include "recognizers/messages.h"
@@ -79,7 +81,8 @@ Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
 }
 
 // Validates one piece, numbers it, lets the handlers veto it and keeps it;
-// the kept entry takes the piece's text, leaving the piece with another.
+// the kept entry takes the piece's text (moved, not swapped: the library's
+// swap is an out-of-line call), and the piece is not read again.
 Status IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
     tarvo2::variant_t converted;
@@ -102,7 +105,7 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     }
     data.m_values.emplace_back();
     ValueEntry& entry = data.m_values.back();
-    entry.first.first.swap(piece);
+    entry.first.first = std::move(piece);
     transferVariant(entry.first.second, event.m_value);
     entry.second = number;
     return Status::Ok;

@@ -1,7 +1,5 @@
 #include "recognizers/name_matching.h"
 
-#include <algorithm>
-
 #include "options/name_index.h"
 
 namespace quen_3_1 {
@@ -55,9 +53,9 @@ std::vector<std::size_t> const& BestNameMatch::find(NameIndex const& index, std:
         for (std::size_t id = exact; id != NameIndex::npos; id = index.nextNamed(id)) {
             m_best.push_back(id);
         }
-        // Every part equal: 2 per part, and the parts are one more than the hyphens.
-        auto const hyphens = std::count(typed.begin(), typed.end(), '-');
-        m_score = static_cast<std::int32_t>(2 * (hyphens + 1));
+        // Every part equal: 2 per part. The candidate has the typed text, so
+        // its parts, counted when it was declared, are the typed ones.
+        m_score = static_cast<std::int32_t>(2 * index.candidate(exact).parts);
         return m_best;
     }
     splitParts(typed, m_typedParts);

@@ -18,20 +18,21 @@ namespace quen_3_1 {
 // never move, so a pointer to one stays valid as the table grows; they are
 // found through open addressing with linear probing over (hash, entry)
 // slots, at most half full. A lookup builds no string and a new name costs no
-// allocation of its own beside its text.
+// allocation of its own beside its text. Only declared names are ever added
+// (a typed name is only looked up), so the cheaper declared-name hash serves.
 template <class Entry>
 class NameTable {
 public:
     // The entry of `name`; null when the name is unknown.
-    Entry* find(std::string_view name) { return entryAt(probe(name, hashText(name))); }
-    Entry const* find(std::string_view name) const { return entryAt(probe(name, hashText(name))); }
+    Entry* find(std::string_view name) { return entryAt(probe(name, hashDeclaredName(name))); }
+    Entry const* find(std::string_view name) const { return entryAt(probe(name, hashDeclaredName(name))); }
 
     // The entry of `name`, a copy of `fresh` when the name is new; true when added.
     std::pair<Entry*, bool> findOrAdd(std::string_view name, Entry const& fresh) {
         if (2 * (m_named.size() + 1) > m_slots.size()) {
             grow();
         }
-        std::uint64_t const hash = hashText(name);
+        std::uint64_t const hash = hashDeclaredName(name);
         std::size_t const at = probe(name, hash);
         if (m_slots[at].named != nullptr) {
             return {&m_slots[at].named->second, false};

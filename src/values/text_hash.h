@@ -88,8 +88,8 @@ std::uint64_t sipHash(HashKey const& key, std::string_view text) {
     return s.v0 ^ s.v1 ^ s.v2 ^ s.v3;
 }
 
-// The hash of a text for the library's own tables (a keeper, the name index,
-// a result's map): keyed, so that its collisions cannot be computed outside
+// The hash of a text for the library's tables into which typed text goes (a
+// keeper of values and texts): keyed, so that its collisions cannot be computed outside
 // the process, and with few rounds, as names and values are mostly short.
 inline std::uint64_t hashText(std::string_view text) { return sipHash<1, 3>(processHashKey(), text); }
 
@@ -117,11 +117,11 @@ inline std::uint64_t finalise(std::uint64_t x) {
 }  // namespace detail
 
 // The hash of a name for tables into which only the names a host declares are
-// ever inserted (the name index): a typed argument is only looked up there, so
-// no input can lengthen their runs of slots, and a few multiplications per
-// eight bytes do where SipHash's rounds cost several times as much. Tables
-// into which typed text is inserted (the keeper of values and texts, a
-// result's names) keep hashText, whose collisions cannot be computed.
+// ever inserted (the name index, a result's names): a typed argument is only
+// looked up there, so no input can lengthen their runs of slots, and a few
+// multiplications per eight bytes do where SipHash's rounds cost several times
+// as much. Tables into which typed text is inserted (the keeper of values and
+// texts) keep hashText, whose collisions cannot be computed.
 inline std::uint64_t declaredNameHash(HashKey const& key, std::string_view text) {
     char const* const p = text.data();
     std::size_t const n = text.size();

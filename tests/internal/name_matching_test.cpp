@@ -371,3 +371,13 @@ TEST_F(NameMatching, IndexedExactNameScoresTwoPerPartEmptyOnesIncluded) {
     EXPECT_EQ(matcher.find(storage.names(), "plain").size(), 1U);
     EXPECT_EQ(matcher.score(), 2);
 }
+
+// A boolean's "no-" form is a name of its own: its hyphen is one more part.
+TEST_F(NameMatching, IndexedExactNegatedNameCountsItsPrefixAsAPart) {
+    add("log-file", tarvo2::vt_bool);
+    quen_3_1::BestNameMatch matcher;
+    EXPECT_EQ(matcher.find(storage.names(), "no-log-file").size(), 1U);
+    EXPECT_EQ(matcher.score(), 6);
+    EXPECT_EQ(matcher.find(storage.names(), "log-file").size(), 1U);
+    EXPECT_EQ(matcher.score(), 4);
+}
