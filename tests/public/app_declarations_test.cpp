@@ -115,7 +115,9 @@ TEST(DeclarationMistakes, MalformedAnywhereInTheList) {
         "' is malformed (up to three comma-separated names, none empty, none beginning with '-' or holding '=' or "
         "a blank, a third one of at most two characters)";
     for (std::string const names : {"a,", ",a", "a=b", "a,b c", "jobs,j\t", "x,-y", "a,b,c,d", "a\rb"}) {
-        expectMistake([&](quen_3_1::App& app) { app.option(names, g_value, "A."); }, "the name list '" + names + rules);
+        std::string expected = "the name list '";
+        expected.append(names).append(rules);
+        expectMistake([&](quen_3_1::App& app) { app.option(names, g_value, "A."); }, expected);
     }
 }
 
