@@ -28,8 +28,8 @@ public:
     // the layer leaves a variable alone when nothing gives it a value.
     virtual void showDefault(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise (the name is
-    // copied only into a reason).
-    virtual std::string check(std::string_view option, std::string const& text) const = 0;
+    // copied only into a reason). A number read is left in `number` (ReadNumber), for assign.
+    virtual std::string check(std::string_view option, std::string const& text, ReadNumber& number) const = 0;
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
     virtual void assign(TakenValue const* first, TakenValue const* last) = 0;
     // A declaration mistake of the refinements, or empty.

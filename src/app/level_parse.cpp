@@ -243,6 +243,7 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
                 kept.source = source->source;
                 kept.level = m_level;
                 kept.option = value.slot;
+                kept.number = value.number;
             }
         }
     }
@@ -277,12 +278,13 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         std::size_t const first = out.m_values.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
             Entry& entry = plain[next];
-            std::string const reason = checkPositional(option, entry.text);
+            ReadNumber number = 0;
+            std::string const reason = checkPositional(option, entry.text, number);
             if (!reason.empty()) {
                 return fail(out, reason);
             }
             out.m_values.push_back(TakenValue{std::move(entry.text), entry.sequence, entry.source, m_level,
-                                              static_cast<std::uint32_t>(index)});
+                                              static_cast<std::uint32_t>(index), number});
         }
         m_positionalCounts[index] = take;
         if (take != 0) {

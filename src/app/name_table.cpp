@@ -12,24 +12,40 @@ std::size_t const kFirstText = 256;
 
 std::uint64_t const kMultiplier = 0x9E3779B97F4A7C15ULL;
 
+template <class Word>
+Word load(char const* at) {
+    Word word = 0;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+}
+
 // Eight bytes at a time: names are short, so a few multiplications beat a
-// byte-by-byte hash. The last shift brings the high bits down to the low ones
-// that pick the slot.
+// byte-by-byte hash. The last word overlaps the one before rather than being
+// read byte by byte (a copy of a variable length would be a call). The last
+// shift brings the high bits down to the low ones that pick the slot.
 std::size_t hashOf(std::string_view name) {
-    std::uint64_t hash = name.size() * kMultiplier;
-    std::size_t at = 0;
-    for (; at + sizeof(std::uint64_t) <= name.size(); at += sizeof(std::uint64_t)) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, name.data() + at, sizeof word);
+    char const* const data = name.data();
+    std::size_t const size = name.size();
+    std::uint64_t hash = size * kMultiplier;
+    auto const mix = [&hash](std::uint64_t word) {
         hash = (hash ^ word) * kMultiplier;
         hash ^= hash >> 29U;
+    };
+    if (size >= sizeof(std::uint64_t)) {
+        for (std::size_t at = 0; at + sizeof(std::uint64_t) < size; at += sizeof(std::uint64_t)) {
+            mix(load<std::uint64_t>(data + at));
+        }
+        mix(load<std::uint64_t>(data + size - sizeof(std::uint64_t)));
+    } else if (size >= sizeof(std::uint32_t)) {
+        mix((std::uint64_t{load<std::uint32_t>(data)} << 32U) |
+            load<std::uint32_t>(data + size - sizeof(std::uint32_t)));
+    } else {
+        std::uint64_t tail = 0;
+        for (std::size_t at = 0; at < size; ++at) {
+            tail = (tail << 8U) | static_cast<unsigned char>(data[at]);
+        }
+        mix(tail);
     }
-    // The last bytes one by one: a copy of a variable length would be a call.
-    std::uint64_t tail = 0;
-    for (; at < name.size(); ++at) {
-        tail = (tail << 8U) | static_cast<unsigned char>(name[at]);
-    }
-    hash = (hash ^ tail) * kMultiplier;
     return static_cast<std::size_t>(hash ^ (hash >> 32U));
 }
 

@@ -52,9 +52,9 @@ std::string libraryCheck(OptionState const& option, std::string& text) {
 
 }  // namespace
 
-std::string checkPositional(OptionState const& option, std::string& text) {
+std::string checkPositional(OptionState const& option, std::string& text, ReadNumber& number) {
     std::string reason = libraryCheck(option, text);
-    return reason.empty() ? option.binding().check(option.name(), text) : reason;
+    return reason.empty() ? option.binding().check(option.name(), text, number) : reason;
 }
 
 }  // namespace quen_3_1::app_detail

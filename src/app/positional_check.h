@@ -9,8 +9,9 @@
 
 namespace quen_3_1::app_detail {
 
-// Empty when accepted (`text` then holds an abbreviated allowed value in full), the reason otherwise.
-std::string checkPositional(OptionState const& option, std::string& text);
+// Empty when accepted (`text` then holds an abbreviated allowed value in full, and `number`
+// the number read from it), the reason otherwise.
+std::string checkPositional(OptionState const& option, std::string& text, ReadNumber& number);
 
 }  // namespace quen_3_1::app_detail
 

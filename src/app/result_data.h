@@ -25,6 +25,10 @@ struct CountedLevel {
     bool counted = false;
 };
 
+// A number as check read it from its text, in the bits of its own type, so that a value
+// is read once however many steps it passes (a text's is unused).
+using ReadNumber = std::uint64_t;
+
 // One value that took effect: an Entry without its name, which is looked up only when the
 // entries are asked for (the first name of option `option` of level `level`, see name_id.h).
 struct TakenValue {
@@ -33,6 +37,7 @@ struct TakenValue {
     Source source;
     std::uint32_t level;
     std::uint32_t option;
+    ReadNumber number;
 };
 
 class ResultData {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "app/result_data.h"
 #include "quen_3_1/app.h"
 
 namespace quen_3_1::app_detail {
@@ -18,6 +19,7 @@ struct SourceValue {
     std::string text;
     std::int32_t sequence;
     std::uint32_t slot;
+    ReadNumber number;
 };
 
 struct SourceValues {

@@ -3,6 +3,7 @@
 #ifndef QUEN_3_1_SRC_APP_TYPED_BINDING_H
 #define QUEN_3_1_SRC_APP_TYPED_BINDING_H
 
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <string>
@@ -76,7 +77,7 @@ public:
         }
     }
 
-    std::string check(std::string_view option, std::string const& text) const override {
+    std::string check(std::string_view option, std::string const& text, ReadNumber& number) const override {
         if constexpr (std::is_same_v<Element, std::string>) {
             // A text is its own value: nothing to convert, nothing to copy.
             return refine(option, text, text);
@@ -85,6 +86,9 @@ public:
             if (!readWhole(text, value)) {
                 return text::notWhole(std::string(option), text, wholeKind(value));
             }
+            static_assert(sizeof value <= sizeof number, "a number read fits its bits");
+            number = 0;
+            std::memcpy(&number, &value, sizeof value);
             return refine(option, text, value);
         }
     }
@@ -96,10 +100,10 @@ public:
         if constexpr (isVector) {
             m_target.clear();
             for (; first != last; ++first) {
-                m_target.push_back(valueOf(first->text));
+                m_target.push_back(valueOf(*first));
             }
         } else {
-            m_target = valueOf((last - 1)->text);
+            m_target = valueOf(*(last - 1));
         }
     }
 
@@ -114,13 +118,13 @@ private:
     static constexpr bool isVector = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
     static constexpr bool isOptional = !std::is_same_v<T, Element> && !isVector;
 
-    // The value of a checked text: a text itself (copied once, into the variable), a number read.
-    static decltype(auto) valueOf(std::string const& text) {
+    // The value of a checked text: a text itself (copied once, into the variable), the number check read.
+    static decltype(auto) valueOf(TakenValue const& taken) {
         if constexpr (std::is_same_v<Element, std::string>) {
-            return (text);
+            return (taken.text);
         } else {
             Element value{};
-            readWhole(text, value);
+            std::memcpy(&value, &taken.number, sizeof value);
             return value;
         }
     }

@@ -55,7 +55,7 @@ bool ValueGate::onOptionParse(char const* name) {
     // occurrence took the next number after the last value, which no event tells.
     m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
-        record(slot, std::string(), ++m_lastSequence);
+        record(slot, std::string(), ++m_lastSequence, 0);
     }
     return true;
 }
@@ -70,8 +70,9 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
         return true;
     }
     std::string text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
+    ReadNumber number = 0;
     if (slot < m_layout.options()) {
-        m_refusal = m_app.m_options[slot]->binding().check(name, text);
+        m_refusal = m_app.m_options[slot]->binding().check(name, text, number);
         if (!m_refusal.empty()) {
             return false;
         }
@@ -81,15 +82,16 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
     if (last != nullptr) {
         last->text = std::move(text);
         last->sequence = value.m_index;
+        last->number = number;
         m_emptyArgument = false;
         return true;
     }
-    record(slot, std::move(text), value.m_index);
+    record(slot, std::move(text), value.m_index, number);
     return true;
 }
 
-void ValueGate::record(std::size_t slot, std::string text, std::int32_t sequence) {
-    m_into->values.push_back(SourceValue{std::move(text), sequence, static_cast<std::uint32_t>(slot)});
+void ValueGate::record(std::size_t slot, std::string text, std::int32_t sequence, ReadNumber number) {
+    m_into->values.push_back(SourceValue{std::move(text), sequence, static_cast<std::uint32_t>(slot), number});
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {

@@ -109,6 +109,28 @@ TEST(DeclarationMistakes, EmptyName) {
                   "the name list 'long,second,xyz" + rules);
 }
 
+// Every rule holds wherever in the list it is broken: at its end, inside a name, in a later name.
+TEST(DeclarationMistakes, MalformedAnywhereInTheList) {
+    std::string const rules =
+        "' is malformed (up to three comma-separated names, none empty, none beginning with '-' or holding '=' or "
+        "a blank, a third one of at most two characters)";
+    for (std::string const names : {"a,", ",a", "a=b", "a,b c", "jobs,j\t", "x,-y", "a,b,c,d", "a\rb"}) {
+        std::string expected = "the name list '";
+        expected.append(names).append(rules);
+        expectMistake([&](quen_3_1::App& app) { app.option(names, g_value, "A."); }, expected);
+    }
+}
+
+TEST(DeclarationMistakes, ThreeNamesWithAShortThirdAreAccepted) {
+    quen_3_1::App app("prog");
+    int jobs = 0;
+    app.option("jobs,j,jb", jobs, "Workers.");
+    quen_3_1::Result const result = parseLine(app, {"--jb=3"});
+    EXPECT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(result.message(), "");
+    EXPECT_EQ(jobs, 3);
+}
+
 TEST(DeclarationMistakes, PositionalAfterVectorPositional) {
     expectMistake(
         [](quen_3_1::App& app) {

@@ -246,4 +246,37 @@ TEST(BoundVariables, ParseNeverPrints) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+// Each kind's number reaches its variable exactly, whether it came as an option's value,
+// a later occurrence that replaced an earlier one, the environment or a positional.
+TEST(WholeNumbers, EveryKindReachesItsVariableFromEverySource) {
+    quen_3_1::App app("prog");
+    int small = 0;
+    unsigned count = 0;
+    long long big = 0;
+    unsigned long long mask = 0;
+    double ratio = 0;
+    bool quiet = false;
+    std::vector<double> points;
+    app.envPrefix("QAPP_WHOLE");
+    app.option("small", small, "A.");
+    app.option("count", count, "B.");
+    app.option("big", big, "C.");
+    app.option("mask", mask, "D.");
+    app.option("ratio", ratio, "E.");
+    app.option("quiet", quiet, "F.");
+    app.positional("points", points, "G.");
+    setenv("QAPP_WHOLE_BIG", "-9007199254740993", 1);
+    quen_3_1::Result const result = parseLine(app, {"--small=-7", "--count", "4000000000", "--mask=0x1F", "--ratio=9.5",
+                                                    "--ratio=0.1", "--quiet", "2.5", "1e-300", "0.30000000000000004"});
+    unsetenv("QAPP_WHOLE_BIG");
+    EXPECT_FALSE(result.done());
+    EXPECT_EQ(small, -7);
+    EXPECT_EQ(count, 4000000000U);
+    EXPECT_EQ(big, -9007199254740993LL);
+    EXPECT_EQ(mask, 31U);
+    EXPECT_EQ(ratio, 0.1);
+    EXPECT_TRUE(quiet);
+    EXPECT_EQ(points, (std::vector<double>{2.5, 1e-300, 0.30000000000000004}));
+}
+
 }  // namespace
