@@ -112,7 +112,10 @@ private:
     int nextValue(char const** text, tarvo2::variant_t& value, int& number);
     int nextOccurrence(int& number);
     void restart(Cursor& cursor) const { cursor = Cursor{0, ValueLog::kEnd, m_current->record}; }
-    // The entry after the cursor in `chain` of the current record; kEnd at the end.
+    // The entry after the cursor in `chain` of the current record, `nextOf`
+    // following that chain's links; kEnd at the end.
+    template <class NextOf>
+    std::uint32_t upcoming(Cursor& cursor, ValueLog::Chain Record::*chain, NextOf nextOf) const;
     std::uint32_t upcomingPosition(Cursor& cursor) const;
     std::uint32_t upcomingValue(Cursor& cursor) const;
     static void pass(Cursor& cursor, std::uint32_t entry) {

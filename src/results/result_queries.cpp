@@ -97,30 +97,25 @@ int ParseResult::readNext(char const** text, tarvo2::variant_t& value, int& numb
     return nextOccurrence(number);
 }
 
-std::uint32_t ParseResult::upcomingPosition(Cursor& cursor) const {
-    Record const& record = currentRecord();
+template <class NextOf>
+std::uint32_t ParseResult::upcoming(Cursor& cursor, ValueLog::Chain Record::*chain, NextOf nextOf) const {
+    ValueLog::Chain const& entries = currentRecord().*chain;
     if (cursor.record != m_current->record) {
         std::size_t const passed = cursor.passed;
         cursor = Cursor{0, ValueLog::kEnd, m_current->record};
-        for (std::uint32_t at = record.positions.first; cursor.passed < passed && at != ValueLog::kEnd;
-             at = m_log.position(at).next) {
+        for (std::uint32_t at = entries.first; cursor.passed < passed && at != ValueLog::kEnd; at = nextOf(at)) {
             pass(cursor, at);
         }
     }
-    return cursor.last == ValueLog::kEnd ? record.positions.first : m_log.position(cursor.last).next;
+    return cursor.last == ValueLog::kEnd ? entries.first : nextOf(cursor.last);
+}
+
+std::uint32_t ParseResult::upcomingPosition(Cursor& cursor) const {
+    return upcoming(cursor, &Record::positions, [this](std::uint32_t at) { return m_log.position(at).next; });
 }
 
 std::uint32_t ParseResult::upcomingValue(Cursor& cursor) const {
-    Record const& record = currentRecord();
-    if (cursor.record != m_current->record) {
-        std::size_t const passed = cursor.passed;
-        cursor = Cursor{0, ValueLog::kEnd, m_current->record};
-        for (std::uint32_t at = record.values.first; cursor.passed < passed && at != ValueLog::kEnd;
-             at = m_log.value(at).next) {
-            pass(cursor, at);
-        }
-    }
-    return cursor.last == ValueLog::kEnd ? record.values.first : m_log.value(cursor.last).next;
+    return upcoming(cursor, &Record::values, [this](std::uint32_t at) { return m_log.value(at).next; });
 }
 
 // The upper bound is included for values, unlike for occurrences.
