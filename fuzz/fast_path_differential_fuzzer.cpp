@@ -157,7 +157,7 @@ void compareConversions(std::string const& line) {
 void compareOptionText(std::uint8_t const* data, std::size_t size) {
     auto const* const text = reinterpret_cast<char const*>(data);
     std::string const whole = size == 0 ? std::string() : std::string(text, strnlen(text, size));
-    quen_fuzz::check(quen_3_1::argumentsOfText(whole) == quen_test::argumentsOfTextByStream(whole),
+    quen_fuzz::check(quen_test::argumentsOfText(whole) == quen_test::argumentsOfTextByStream(whole),
                      "option text lines equal the stream's");
 }
 

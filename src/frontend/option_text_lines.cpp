@@ -37,12 +37,4 @@ std::vector<std::pair<std::size_t, std::size_t>> argumentSpansOfText(std::string
     return args;
 }
 
-std::vector<std::string> argumentsOfText(std::string const& text) {
-    std::vector<std::string> args;
-    for (auto const& span : argumentSpansOfText(text)) {
-        args.emplace_back(text, span.first, span.second);
-    }
-    return args;
-}
-
 }  // namespace quen_3_1

@@ -14,8 +14,6 @@ namespace quen_3_1 {
 // Each as (start, size) within `text`; a line end, a removed '\r' or the end
 // of the text follows each.
 std::vector<std::pair<std::size_t, std::size_t>> argumentSpansOfText(std::string const& text);
-// The same arguments as texts of their own.
-std::vector<std::string> argumentsOfText(std::string const& text);
 
 }  // namespace quen_3_1
 

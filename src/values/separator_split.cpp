@@ -6,11 +6,11 @@ namespace quen_3_1 {
 
 namespace {
 
-// Names hold no separator or a few: a search per separator beats a test per character.
-std::size_t separatorsIn(char const* data, std::size_t size, char separator) {
+// The separators from `first`, one of them, to `end`. Names hold a few: a
+// search per separator beats a test per character.
+std::size_t separatorsFrom(char const* first, char const* end, char separator) {
     std::size_t count = 0;
-    char const* const end = data + size;
-    for (void const* at = std::memchr(data, separator, size); at != nullptr;
+    for (void const* at = first; at != nullptr;
          at = std::memchr(static_cast<char const*>(at) + 1, separator,
                           static_cast<std::size_t>(end - static_cast<char const*>(at) - 1))) {
         ++count;
@@ -21,7 +21,8 @@ std::size_t separatorsIn(char const* data, std::size_t size, char separator) {
 // `data[size]` is the terminating NUL, which a trailing separator's piece holds.
 void splitTerminated(char const* data, std::size_t size, char separator, std::vector<std::string>& out) {
     // Most texts hold no separator at all: they are their own single piece.
-    if (std::memchr(data, separator, size) == nullptr) {
+    auto const* const first = static_cast<char const*>(std::memchr(data, separator, size));
+    if (first == nullptr) {
         if (size != 0) {
             out.emplace_back(data, size);
         }
@@ -30,7 +31,7 @@ void splitTerminated(char const* data, std::size_t size, char separator, std::ve
     // Each separator ends at most one piece: one allocation for a new list. A
     // list appended to keeps its geometric growth.
     if (out.empty()) {
-        out.reserve(separatorsIn(data, size, separator) + 1);
+        out.reserve(separatorsFrom(first, data + size, separator) + 1);
     }
     // Each search skips to the next separator; the character right after one
     // is never tested.

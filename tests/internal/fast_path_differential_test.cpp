@@ -705,21 +705,21 @@ private:
 
 TEST_F(FastPath, OptionTextLinesEqualReadingAStringStream) {
     for (char const* text : {"", "\n", "-a", "-a\n", "  -a\r\n\t-a\n-a  ", "#-a\n;-b\n-c#d", "\r\n\r", "\n\n-x\n\n"}) {
-        EXPECT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+        EXPECT_EQ(quen_test::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
     }
     std::mt19937 random(2718281);
     for (int i = 0; i < 20000; ++i) {
         std::string const text = optionText(random);
-        ASSERT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+        ASSERT_EQ(quen_test::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
     }
 }
 
 TEST_F(FastPath, OptionTextLinesFollowTheGlobalLocalesBlanks) {
     GlobalLocale const wide(std::locale(std::locale::classic(), new WideBlanks));
-    EXPECT_EQ(quen_3_1::argumentsOfText("--a\n\xa0-b"), std::vector<std::string>({"a", "b"}));
+    EXPECT_EQ(quen_test::argumentsOfText("--a\n\xa0-b"), std::vector<std::string>({"a", "b"}));
     std::mt19937 random(1414213);
     for (int i = 0; i < 5000; ++i) {
         std::string const text = optionText(random);
-        ASSERT_EQ(quen_3_1::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
+        ASSERT_EQ(quen_test::argumentsOfText(text), quen_test::argumentsOfTextByStream(text)) << text;
     }
 }

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "frontend/option_text_lines.h"
 #include "options/registered_option_storage.h"
 
 namespace quen_test {
@@ -55,6 +56,16 @@ bool extractByStream(char const* text, T& value, bool hex = false) {
     }
     stream >> value;
     return !stream.fail();
+}
+
+// The library's arguments of an option text as texts of their own, for
+// comparing with the reference below.
+inline std::vector<std::string> argumentsOfText(std::string const& text) {
+    std::vector<std::string> args;
+    for (auto const& span : quen_3_1::argumentSpansOfText(text)) {
+        args.emplace_back(text, span.first, span.second);
+    }
+    return args;
 }
 
 // The arguments of an option text read line by line from a string stream,
