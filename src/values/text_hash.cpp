@@ -45,4 +45,11 @@ HashKey makeHashKey() noexcept {
                    scramble(words[1] ^ code ^ scramble(wall)) ^ words[3]};
 }
 
+HashKey makeAddressKey() noexcept {
+    int local = 0;
+    auto const stack = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&local));
+    auto const code = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(&makeAddressKey));
+    return HashKey{scramble(stack ^ scramble(code)), scramble(code ^ scramble(stack ^ 0x9e3779b97f4a7c15ULL))};
+}
+
 }  // namespace quen_3_1

@@ -24,6 +24,18 @@ inline HashKey const& processHashKey() {
     return key;
 }
 
+// A key from where the system placed this process's stack and the library's
+// code, both moved by address space randomisation: no random source, no clock.
+HashKey makeAddressKey() noexcept;
+
+// The key of the tables that hold declared names only (see declaredNameHash).
+// A host that declares options and parses never opens the random source for
+// it, which would cost each process a system resource and a fresh stack page.
+inline HashKey const& declaredNameKey() {
+    static HashKey const key = makeAddressKey();
+    return key;
+}
+
 namespace detail {
 
 constexpr std::uint64_t rotateLeft(std::uint64_t x, int bits) { return (x << bits) | (x >> (64 - bits)); }
@@ -121,7 +133,8 @@ inline std::uint64_t finalise(std::uint64_t x) {
 // looked up there, so no input can lengthen their runs of slots, and a few
 // multiplications per eight bytes do where SipHash's rounds cost several times
 // as much. Tables into which typed text is inserted (the keeper of values and
-// texts) keep hashText, whose collisions cannot be computed.
+// texts) keep hashText, whose collisions cannot be computed. The key only
+// keeps a host's own names from landing alike in every process.
 inline std::uint64_t declaredNameHash(HashKey const& key, std::string_view text) {
     char const* const p = text.data();
     std::size_t const n = text.size();
@@ -143,8 +156,8 @@ inline std::uint64_t declaredNameHash(HashKey const& key, std::string_view text)
     return detail::finalise((h ^ last) * 0x9e3779b97f4a7c15ULL ^ key.k1);
 }
 
-// The same with the key of this process.
-inline std::uint64_t hashDeclaredName(std::string_view text) { return declaredNameHash(processHashKey(), text); }
+// The same with the declared-name key of this process.
+inline std::uint64_t hashDeclaredName(std::string_view text) { return declaredNameHash(declaredNameKey(), text); }
 
 // The same as a hash function object for the standard unordered containers.
 struct TextHash {

@@ -41,7 +41,7 @@ TEST(DeclaredNameHash, EqualNamesHashAlike) {
     std::string const a = "log-file";
     std::string const b = std::string("log-") + "file";
     EXPECT_EQ(hashDeclaredName(a), hashDeclaredName(b));
-    EXPECT_EQ(hashDeclaredName(a), quen_3_1::declaredNameHash(quen_3_1::processHashKey(), a));
+    EXPECT_EQ(hashDeclaredName(a), quen_3_1::declaredNameHash(quen_3_1::declaredNameKey(), a));
 }
 
 TEST(DeclaredNameHash, TrailingNulCharactersLengthAndOrderCount) {
