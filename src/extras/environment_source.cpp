@@ -9,7 +9,7 @@
 #include "extras/visible_names.h"
 #include "frontend/basic_parser.h"
 #include "quen_3_1/extras.h"
-#include "results/parse_result.h"
+#include "results/own_result.h"
 
 namespace quen_3_1 {
 
@@ -57,7 +57,7 @@ int environmentArguments(RegisteredOptionStorage const& storage, std::string con
 
 int parseEnvironment(IParser* parser, IParseResult* result, char const* prefix) {
     BasicParser* basic = dynamic_cast<BasicParser*>(parser);
-    if (basic == nullptr || dynamic_cast<ParseResult*>(result) == nullptr) {
+    if (basic == nullptr || ownResult(result) == nullptr) {
         return 3;
     }
     std::string text;

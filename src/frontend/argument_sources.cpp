@@ -8,15 +8,9 @@
 #include "frontend/ustring.h"
 #include "recognizers/argument_parser.h"
 #include "recognizers/messages.h"
-#include "results/parse_result.h"
+#include "results/own_result.h"
 
 namespace quen_3_1 {
-
-namespace {
-
-ParseResult* asParseResult(IParseResult* result) { return dynamic_cast<ParseResult*>(result); }
-
-}  // namespace
 
 // Defaults are applied before anything else; an exception from that step is
 // not caught, as hosts have always seen it.
@@ -24,7 +18,7 @@ int BasicParser::parseArgsVector(int argc, char** argv, IParseResult* result) {
     if (Status const spent = refuseWhenNumbersSpent(); spent != Status::Ok) {
         return codeOf(spent);
     }
-    ParseResult* const parseResult = asParseResult(result);
+    ParseResult* const parseResult = ownResult(result);
     if (parseResult != nullptr) {
         std::string error;
         Status const applied = parseResult->applyDefault(m_storage, error);
@@ -86,7 +80,7 @@ Status BasicParser::parseList(ArgumentList& list, IParseResult* result) {
         std::string error;
         Status status = parse("--", list, result, error);
         if (status == Status::Ok) {
-            status = collectNonparsingArguments(list, asParseResult(result), error);
+            status = collectNonparsingArguments(list, ownResult(result), error);
         }
         if (status != Status::Ok) {
             setLastError(error);

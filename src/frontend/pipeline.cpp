@@ -9,7 +9,7 @@
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/messages.h"
 #include "recognizers/positional_options_parser.h"
-#include "results/parse_result.h"
+#include "results/own_result.h"
 
 namespace quen_3_1 {
 
@@ -23,7 +23,7 @@ Status BasicParser::parse(std::string const& terminator, ArgumentList& args, IPa
     AbbreviationParser abbreviation(this, &m_garbage, m_flags);
     IArgumentParser* const recognizers[] = {&positional, &abbreviation};
     Recognition findings[2];
-    IResultCollector* const collector = dynamic_cast<ParseResult*>(result);
+    IResultCollector* const collector = ownResult(result);
     while (!args.empty() && args[0] != terminator) {
         // Every recognizer looks; the greatest priority wins, the earlier one a tie.
         std::size_t chosen = 2;
