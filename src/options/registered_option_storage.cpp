@@ -1,53 +1,79 @@
 #include "options/registered_option_storage.h"
 
-#include <stdexcept>
+#include <cstring>
 #include <string_view>
+#include <tuple>
 
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
-#include "options/messages.h"
+#include "options/required_text.h"
 #include "values/separator_split.h"
 
 namespace quen_3_1 {
 
 namespace {
 
-// A host's text; a null one is refused as a string made of it always was.
-char const* required(char const* text) {
-    if (text == nullptr) {
-        throw std::logic_error(option_messages::nullText());
+// A boolean answers to its names with this in front too.
+constexpr std::string_view kNegation = "no-";
+
+NameList viewsOf(std::vector<std::string> const& names) {
+    NameList list;
+    for (std::string const& name : names) {
+        list.view(name);
     }
-    return text;
+    return list;
 }
 
 }  // namespace
 
+// The names are split as views of the host's text, and copied into the arena
+// only once they are accepted.
 IOption* RegisteredOptionStorage::option(char const* names, char const* description, kel_variant_type_t type,
                                          char const* group) {
-    std::pair<std::string, std::string> const& groupEntry = recordGroup(required(group));
+    std::pair<std::string, std::string> const& groupEntry = recordGroup(requiredText(group));
     m_invalidOption.setStatus(3);
-    std::vector<std::string> list;
-    splitAtSeparator(required(names), ',', list);
+    char const* const text = requiredText(names);
+    NameList listed;
+    forEachPiece(std::string_view(text, std::strlen(text)), ',',
+                 [&listed](std::string_view name) { listed.view(name); });
     NameHashes hashes{};
-    if (validateName(list, hashes) == 1) {
+    if (validateName(listed, hashes) == 1) {
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
+    bool const boolean = type == tarvo2::vt_bool;
+    NameList kept;
+    std::array<std::string_view, std::tuple_size<NameHashes>::value> negated{};
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        kept.view(keep(listed[i], boolean, negated[i]));
+    }
     std::size_t const index = m_options.size();
-    HeldText held = HeldText::viewing(TextArena::copied(m_texts.copy(required(description))));
+    HeldText held = HeldText::viewing(TextArena::copied(m_texts.copy(requiredText(description))));
     OptionDescription& stored =
-        m_options.emplace_back(std::move(list), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
+        m_options.emplace_back(std::move(kept), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
-        m_names.add(index, i, stored.names()[i], type == tarvo2::vt_bool, hashes[i]);
+        m_names.add(index, i, stored.names()[i], negated[i], hashes[i]);
     }
     stored.linkTo(this, index);
     return &stored;
 }
 
-void RegisteredOptionStorage::nameAdded(std::size_t option) {
-    OptionDescription const& described = m_options[option];
-    std::size_t const last = described.names().size() - 1;
-    m_names.add(option, last, described.names()[last], described.type() == tarvo2::vt_bool);
+// A boolean's name is kept right after its "no-", so that the negated form,
+// which the index needs, costs no copy of its own.
+std::string_view RegisteredOptionStorage::keep(std::string_view name, bool boolean, std::string_view& negated) {
+    if (!boolean) {
+        negated = std::string_view();
+        return TextArena::copied(m_texts.copy(name));
+    }
+    negated = TextArena::copied(m_texts.copy(kNegation, name));
+    return negated.substr(kNegation.size());
+}
+
+void RegisteredOptionStorage::addSynonym(std::size_t option, char const* name, NameList& names) {
+    std::string_view negated;
+    names.view(keep(name, m_options[option].type() == tarvo2::vt_bool, negated));
+    std::size_t const last = names.size() - 1;
+    m_names.add(option, last, names[last], negated);
 }
 
 void RegisteredOptionStorage::positionalSet(std::size_t option) {
@@ -77,11 +103,11 @@ int RegisteredOptionStorage::split(std::string const& text, std::vector<std::str
 
 int RegisteredOptionStorage::validateName(std::vector<std::string> const& names) {
     NameHashes hashes{};
-    return validateName(names, hashes);
+    return validateName(viewsOf(names), hashes);
 }
 
 // Hashes each name once, for the lookup here and the registration after it.
-int RegisteredOptionStorage::validateName(std::vector<std::string> const& names, NameHashes& hashes) {
+int RegisteredOptionStorage::validateName(NameList const& names, NameHashes& hashes) {
     if (names.size() > hashes.size() || (names.size() == 3 && names[2].size() > 2)) {
         return 1;
     }
@@ -91,7 +117,7 @@ int RegisteredOptionStorage::validateName(std::vector<std::string> const& names,
     unsigned long index = 0;
     if (findOption(names, hashes, index) == 0) {
         internal::trace("An option with the same name is already registered: ", names[0]);
-        ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(names[0]) << std::endl;
+        ORNA_2_10::strings::tv2::consoleError() << ORNA_2_10::strings::tv2::to_utf8(std::string(names[0])) << std::endl;
         return 1;
     }
     return 0;
@@ -108,8 +134,7 @@ int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, u
     return 1;
 }
 
-int RegisteredOptionStorage::findOption(std::vector<std::string> const& names, NameHashes const& hashes,
-                                        unsigned long& index) const {
+int RegisteredOptionStorage::findOption(NameList const& names, NameHashes const& hashes, unsigned long& index) const {
     for (std::size_t i = 0; i < names.size(); ++i) {
         if (found(m_names.firstNamed(names[i], hashes[i]), index)) {
             return 0;

@@ -98,7 +98,7 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     }
     Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
     transferVariant(event.m_value, converted);
-    if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
+    if (!m_handler->onValueParse(option.primaryName().data(), event)) {
         message = recognizer_messages::valueVetoed(whole, option.primaryName(), std::string(args[0]));
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return Status::Vetoed;
