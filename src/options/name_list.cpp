@@ -35,15 +35,6 @@ NameList& NameList::operator=(NameList&& other) noexcept {
     return *this;
 }
 
-void NameList::view(std::string_view text) {
-    if (m_size < kInline) {
-        m_first[m_size] = text;
-    } else {
-        spill().more.push_back(text);
-    }
-    ++m_size;
-}
-
 void NameList::own(std::string_view text) {
     std::deque<std::string>& owned = spill().owned;
     owned.emplace_back(text);

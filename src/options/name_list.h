@@ -49,7 +49,14 @@ public:
     ~NameList() = default;
 
     // Appends a view of `text`, which the caller keeps for as long as this list.
-    void view(std::string_view text);
+    void view(std::string_view text) {
+        if (m_size < kInline) {
+            m_first[m_size] = text;
+        } else {
+            spill().more.push_back(text);
+        }
+        ++m_size;
+    }
     // Appends a copy of `text` that this list keeps.
     void own(std::string_view text);
 

@@ -2,7 +2,6 @@
 
 #include <cstring>
 #include <string_view>
-#include <tuple>
 
 #include "frontend/trace.h"
 #include "frontend/ustring.h"
@@ -15,6 +14,17 @@ namespace {
 
 // A boolean answers to its names with this in front too.
 constexpr std::string_view kNegation = "no-";
+
+// True when `group`, up to its first ':', is `name`, which holds no ':'.
+bool namesGroup(char const* group, std::string const& name) {
+    for (char const c : name) {
+        if (*group != c) {
+            return false;
+        }
+        ++group;
+    }
+    return *group == '\0' || *group == ':';
+}
 
 NameList viewsOf(std::vector<std::string> const& names) {
     NameList list;
@@ -41,25 +51,47 @@ IOption* RegisteredOptionStorage::option(char const* names, char const* descript
         m_invalidOption.setStatus(1);
         return &m_invalidOption;
     }
-    bool const boolean = type == tarvo2::vt_bool;
-    NameList kept;
-    std::array<std::string_view, std::tuple_size<NameHashes>::value> negated{};
-    for (std::size_t i = 0; i < listed.size(); ++i) {
-        kept.view(keep(listed[i], boolean, negated[i]));
-    }
+    KeptTexts kept = keepTexts(listed, type == tarvo2::vt_bool, requiredText(description));
     std::size_t const index = m_options.size();
-    HeldText held = HeldText::viewing(TextArena::copied(m_texts.copy(requiredText(description))));
-    OptionDescription& stored =
-        m_options.emplace_back(std::move(kept), groupEntry.first, groupEntry.second, std::move(held), type, m_garbage);
+    OptionDescription& stored = m_options.emplace_back(std::move(kept.names), groupEntry.first, groupEntry.second,
+                                                       HeldText::viewing(kept.description), type, m_garbage);
     for (std::size_t i = 0; i < stored.names().size(); ++i) {
-        m_names.add(index, i, stored.names()[i], negated[i], hashes[i]);
+        m_names.add(index, i, stored.names()[i], kept.negated[i], hashes[i]);
     }
     stored.linkTo(this, index);
     return &stored;
 }
 
-// A boolean's name is kept right after its "no-", so that the negated form,
-// which the index needs, costs no copy of its own.
+// One piece of the arena for all of an option's texts: each name followed by
+// a NUL, a boolean's name right after its "no-" (so that the negated form,
+// which the index needs, costs no copy of its own), then the description.
+RegisteredOptionStorage::KeptTexts RegisteredOptionStorage::keepTexts(NameList const& listed, bool boolean,
+                                                                      std::string_view description) {
+    std::size_t const prefix = boolean ? kNegation.size() : 0;
+    std::size_t size = description.size() + 1;
+    for (std::string_view const name : listed) {
+        size += prefix + name.size() + 1;
+    }
+    char* at = m_texts.place(size);
+    KeptTexts kept;
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        std::string_view const name = listed[i];
+        std::memcpy(at, kNegation.data(), prefix);
+        std::memcpy(at + prefix, name.data(), name.size());
+        kept.names.view(std::string_view(at + prefix, name.size()));
+        if (boolean) {
+            kept.negated[i] = std::string_view(at, prefix + name.size());
+        }
+        at += prefix + name.size();
+        *at++ = '\0';
+    }
+    std::memcpy(at, description.data(), description.size());
+    at[description.size()] = '\0';
+    kept.description = std::string_view(at, description.size());
+    return kept;
+}
+
+// A synonym's copy, laid out as keepTexts lays out a name.
 std::string_view RegisteredOptionStorage::keep(std::string_view name, bool boolean, std::string_view& negated) {
     if (!boolean) {
         negated = std::string_view();
@@ -82,17 +114,18 @@ void RegisteredOptionStorage::positionalSet(std::size_t option) {
     }
 }
 
-// The first title given to a group wins; later ones are ignored.
-std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(std::string_view group) {
-    std::size_t const colon = group.find(':');
-    std::string_view const name = group.substr(0, colon);
+// The first title given to a group wins; later ones are ignored. A group met
+// before is found without measuring the host's text first.
+std::pair<std::string, std::string> const& RegisteredOptionStorage::recordGroup(char const* group) {
     for (auto const& entry : m_groups) {
-        if (entry.first == name) {
+        if (namesGroup(group, entry.first)) {
             return entry;
         }
     }
-    std::string_view const title = colon == std::string_view::npos ? std::string_view() : group.substr(colon + 1);
-    m_groups.emplace_back(std::string(name), std::string(title));
+    std::string_view const text(group);
+    std::size_t const colon = text.find(':');
+    std::string_view const title = colon == std::string_view::npos ? std::string_view() : text.substr(colon + 1);
+    m_groups.emplace_back(std::string(text.substr(0, colon)), std::string(title));
     return m_groups.back();
 }
 

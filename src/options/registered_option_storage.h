@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -57,7 +58,14 @@ private:
     // The hashes of a name list that may be registered (at most three names).
     using NameHashes = std::array<std::uint64_t, 3>;
 
-    std::pair<std::string, std::string> const& recordGroup(std::string_view group);
+    std::pair<std::string, std::string> const& recordGroup(char const* group);
+    // An accepted option's texts as the arena keeps them; `negated` only for a boolean.
+    struct KeptTexts {
+        NameList names;
+        std::array<std::string_view, std::tuple_size<NameHashes>::value> negated{};
+        std::string_view description;
+    };
+    KeptTexts keepTexts(NameList const& listed, bool boolean, std::string_view description);
     // A copy of `name` in the arena; a boolean's "no-" form of it in `negated`,
     // else an empty view.
     std::string_view keep(std::string_view name, bool boolean, std::string_view& negated);

@@ -1,5 +1,6 @@
 #include "recognizers/argument_parser.h"
 
+#include <cstring>
 #include <utility>
 
 #include "frontend/trace.h"
@@ -46,17 +47,9 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
         char const tokenizer = option.tokenizer();
         if (tokenizer != 0) {
             internal::trace(m_name, ": using tokenizer on char: '", tokenizer, "'");
-            std::vector<std::string>& pieces = m_pieces;
-            pieces.clear();
-            splitAtSeparator(value, tokenizer, pieces);
-            for (std::string& piece : pieces) {
-                internal::trace(m_name, ": value is: '", piece, "'");
-                Status const status = addValue(piece, value, message, option, args, data);
-                if (status != Status::Ok) {
-                    return status;
-                }
-                internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-                                data.m_values.back().first.first, "'");
+            Status const status = addPieces(value, tokenizer, message, option, args, data);
+            if (status != Status::Ok) {
+                return status;
             }
         } else {
             internal::trace(m_name, ": not using tokenizer");
@@ -72,6 +65,37 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
     }
     internal::trace(m_name, ": stored option to result container.");
     return Status::Ok;
+}
+
+// Most values hold no separator: they are their own single piece, taken
+// without splitting them into the list of pieces.
+Status IArgumentParser::addPieces(std::string const& value, char tokenizer, std::string& message,
+                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+    if (std::memchr(value.data(), tokenizer, value.size()) == nullptr) {
+        std::string piece = value;
+        return addPiece(piece, value, message, option, args, data);
+    }
+    std::vector<std::string>& pieces = m_pieces;
+    pieces.clear();
+    splitAtSeparator(value, tokenizer, pieces);
+    for (std::string& piece : pieces) {
+        Status const status = addPiece(piece, value, message, option, args, data);
+        if (status != Status::Ok) {
+            return status;
+        }
+    }
+    return Status::Ok;
+}
+
+Status IArgumentParser::addPiece(std::string& piece, std::string const& whole, std::string& message,
+                                 OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+    internal::trace(m_name, ": value is: '", piece, "'");
+    Status const status = addValue(piece, whole, message, option, args, data);
+    if (status == Status::Ok) {
+        internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
+                        data.m_values.back().first.first, "'");
+    }
+    return status;
 }
 
 Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {

@@ -89,6 +89,18 @@ TEST_F(Registry, GroupsKeepFirstSeenOrderAndCase) {
     EXPECT_EQ(m_storage.groups(), (Groups{{"beta", ""}, {"alpha", ""}, {"Alpha", ""}}));
 }
 
+TEST_F(Registry, GroupNamedByTheBeginningOfAnotherIsAGroupOfItsOwn) {
+    add("a", tarvo2::vt_int, "general:General options");
+    add("b", tarvo2::vt_int, "gen");
+    add("c", tarvo2::vt_int, "general-more");
+    add("d", tarvo2::vt_int, "gen:Short");
+    add("e", tarvo2::vt_int, "general:");
+    EXPECT_EQ(m_storage.groups(), (Groups{{"general", "General options"}, {"gen", ""}, {"general-more", ""}}));
+    EXPECT_EQ(m_storage.at(3).group(), "gen");
+    EXPECT_EQ(m_storage.at(3).groupTitle(), "");
+    EXPECT_EQ(m_storage.at(4).groupTitle(), "General options");
+}
+
 TEST_F(Registry, RefusedRegistrationStillRecordsItsGroup) {
     add("a", tarvo2::vt_int, "one");
     FdCapture err(2);
