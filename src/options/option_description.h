@@ -67,6 +67,8 @@ public:
     bool typedOperation(Op& op) const;
     // The text converted to m_type; vt_empty when it does not convert.
     tarvo2::variant_t fromString(char const* text, Garbage* keeper) const;
+    // The same into `value`, whose content is released first.
+    void convert(char const* text, Garbage* keeper, tarvo2::variant_t& value) const;
     // The value rendered through m_type, interned in `keeper`.
     char const* toString(Garbage* keeper, tarvo2::variant_t const& value) const;
     // Display name of m_type used in messages and help.

@@ -109,9 +109,10 @@ Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
 // swap is an out-of-line call), and the piece is not read again.
 Status IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
-    tarvo2::variant_t converted;
+    // The event's variant takes the converted value, so no other variant is made for it.
+    Value event{nullptr, 0, 0, tarvo2::variant_t()};
     std::string reason;
-    if (!option.validate(piece, converted, reason)) {
+    if (!option.validate(piece, event.m_value, reason)) {
         message = recognizer_messages::validationProblem(std::string(args[0]), reason);
         internal::trace(m_name, ": ", message);
         return Status::Failed;
@@ -120,8 +121,8 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     if (number == kNoNumber) {
         return refuseForWantOfNumbers(message);
     }
-    Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
-    transferVariant(event.m_value, converted);
+    event.m_text = piece.c_str();
+    event.m_index = number;
     if (!m_handler->onValueParse(option.primaryName().data(), event)) {
         message = recognizer_messages::valueVetoed(whole, option.primaryName(), std::string(args[0]));
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
