@@ -76,12 +76,12 @@ RegisteredOptionStorage::KeptTexts RegisteredOptionStorage::keepTexts(NameList c
     KeptTexts kept;
     for (std::size_t i = 0; i < listed.size(); ++i) {
         std::string_view const name = listed[i];
-        std::memcpy(at, kNegation.data(), prefix);
-        std::memcpy(at + prefix, name.data(), name.size());
-        kept.names.view(std::string_view(at + prefix, name.size()));
         if (boolean) {
+            std::memcpy(at, kNegation.data(), prefix);
             kept.negated[i] = std::string_view(at, prefix + name.size());
         }
+        std::memcpy(at + prefix, name.data(), name.size());
+        kept.names.view(std::string_view(at + prefix, name.size()));
         at += prefix + name.size();
         *at++ = '\0';
     }
