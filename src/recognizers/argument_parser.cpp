@@ -1,6 +1,5 @@
 #include "recognizers/argument_parser.h"
 
-#include <cstring>
 #include <utility>
 
 #include "frontend/trace.h"
@@ -71,7 +70,7 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
 // without splitting them into the list of pieces.
 Status IArgumentParser::addPieces(std::string const& value, char tokenizer, std::string& message,
                                   OptionDescription const& option, ArgumentList const& args, OptionData& data) {
-    if (std::memchr(value.data(), tokenizer, value.size()) == nullptr) {
+    if (value.find(tokenizer) == std::string::npos) {
         std::string piece = value;
         return addPiece(piece, value, message, option, args, data);
     }
