@@ -43,8 +43,4 @@ void splitAtSeparator(std::string const& text, char separator, std::vector<std::
     splitTerminated(text.c_str(), text.size(), separator, out);
 }
 
-void splitAtSeparator(char const* text, char separator, std::vector<std::string>& out) {
-    splitTerminated(text, std::strlen(text), separator, out);
-}
-
 }  // namespace quen_3_1

@@ -14,8 +14,6 @@ namespace quen_3_1 {
 // final one-character NUL piece: "a,,b" -> "a", ",b"; "a," -> "a", "\0";
 // "," -> "", "\0". Hosts depend on these results, so they are kept.
 void splitAtSeparator(std::string const& text, char separator, std::vector<std::string>& out);
-// The same for a NUL-terminated text, not copied first.
-void splitAtSeparator(char const* text, char separator, std::vector<std::string>& out);
 
 // The pieces of `text` as splitAtSeparator cuts them, handed to
 // `piece(std::string_view)` in order. `text` must be followed by its NUL,
