@@ -81,7 +81,7 @@ void compareMatching(RegisteredOptionStorage& storage, std::string const& typed)
     if (scanCode != 0) {
         return;
     }
-    std::string const& name = storage.names().candidate(candidate).text;
+    std::string const name(storage.names().candidate(candidate).text);
     quen_fuzz::check(name == best.getName(), "same best name");
     unsigned long fast = 1;
     unsigned long slow = 2;

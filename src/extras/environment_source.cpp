@@ -34,7 +34,8 @@ int environmentArguments(RegisteredOptionStorage const& storage, std::string con
             !isTypeableName(option.primaryName())) {
             continue;
         }
-        std::string const variable = environmentVariableName(prefix, option.primaryName());
+        std::string const name(option.primaryName());
+        std::string const variable = environmentVariableName(prefix, name);
         char const* found = lookup(variable);
         if (found == nullptr || *found == '\0') {
             continue;
@@ -44,9 +45,9 @@ int environmentArguments(RegisteredOptionStorage const& storage, std::string con
             error = "Environment variable '" + variable + "' holds a line break";
             return 2;
         }
-        std::string argument = "--" + option.primaryName();
+        std::string argument = "--" + name;
         if (option.type() == tarvo2::vt_bool && value == "0") {
-            argument = "--no-" + option.primaryName();
+            argument = "--no-" + name;
         } else if (option.type() != tarvo2::vt_bool || value != "1") {
             argument += "=" + value;
         }

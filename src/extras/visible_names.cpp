@@ -4,8 +4,8 @@
 
 namespace quen_3_1 {
 
-bool isTypeableName(std::string const& name) {
-    return !name.empty() && name.find_first_of(std::string("=\n\r\0", 4)) == std::string::npos;
+bool isTypeableName(std::string_view name) {
+    return !name.empty() && name.find_first_of(std::string_view("=\n\r\0", 4)) == std::string_view::npos;
 }
 
 bool isHiddenOption(OptionDescription const& option) { return option.group() == "quen_hidden"; }
@@ -17,13 +17,13 @@ std::vector<VisibleName> visibleNames(RegisteredOptionStorage const& storage) {
         if (isHiddenOption(option)) {
             continue;
         }
-        for (std::string const& name : option.names()) {
+        for (std::string_view const name : option.names()) {
             if (!isTypeableName(name)) {
                 continue;
             }
-            names.push_back(VisibleName{name, i});
+            names.push_back(VisibleName{std::string(name), i});
             if (option.type() == tarvo2::vt_bool) {
-                names.push_back(VisibleName{"no-" + name, i});
+                names.push_back(VisibleName{"no-" + std::string(name), i});
             }
         }
     }

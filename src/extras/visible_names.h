@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quen_3_1 {
@@ -15,7 +16,7 @@ bool isHiddenOption(OptionDescription const& option);
 
 // False for names that cannot be typed as one shell word: empty ones, and
 // those holding '=', a line break or NUL.
-bool isTypeableName(std::string const& name);
+bool isTypeableName(std::string_view name);
 
 // A name the named-option recognizer accepts, with the index of its option.
 struct VisibleName {

@@ -21,8 +21,8 @@ bool isShown(std::string const& group, bool hidden) { return (group == kHiddenGr
 
 // Synonyms first, the most recently added first; the primary name last.
 std::string namesPart(OptionDescription const& option) {
-    std::vector<std::string> const& names = option.names();
-    std::string const& primary = names.at(0);
+    NameList const& names = option.names();
+    std::string_view const primary = names.at(0);
     std::string head;
     for (std::size_t i = names.size() - 1; i >= 1; --i) {
         head += "-";
@@ -39,7 +39,8 @@ std::string booleanPart(OptionDescription const& option) {
     bool const hasDefault = option.hasDefault();
     bool const defaultTrue = option.getDefault().m_data != 0;
     std::string part = hasDefault && defaultTrue ? " (default)" : "";
-    part += " | -no-" + option.primaryName();
+    part += " | -no-";
+    part += option.primaryName();
     if (hasDefault && !defaultTrue) {
         part += " (default)";
     }

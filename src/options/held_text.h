@@ -1,7 +1,7 @@
 #ifndef QUEN_3_1_OPTIONS_HELD_TEXT_H
 #define QUEN_3_1_OPTIONS_HELD_TEXT_H
 
-#include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,19 +12,28 @@ namespace quen_3_1 {
 // (a registry's arena: no allocation per registered option) or owns its
 // characters. A copy always owns them, so it outlives what the original
 // viewed; a move keeps viewing, the viewed storage being nobody's member.
+// Owned characters lie on the heap, so that a description stays small enough
+// for several to share one block of its registry.
 class HeldText {
 public:
     HeldText() = default;
-    explicit HeldText(std::string text) : m_own(std::move(text)) {}
+    explicit HeldText(std::string text) {
+        if (!text.empty()) {
+            m_own = std::make_unique<std::string>(std::move(text));
+            m_view = *m_own;
+        }
+    }
     // `text` must outlive this object, though not its copies.
-    static HeldText viewing(std::string_view text) { return HeldText(text.data(), text.size()); }
+    static HeldText viewing(std::string_view text) {
+        HeldText held;
+        held.m_view = text;
+        return held;
+    }
 
-    HeldText(HeldText const& other) : m_own(other.view()) {}
+    HeldText(HeldText const& other) : HeldText(std::string(other.view())) {}
     HeldText& operator=(HeldText const& other) {
         if (this != &other) {
-            m_own.assign(other.view().data(), other.view().size());
-            m_viewed = nullptr;
-            m_size = 0;
+            *this = HeldText(other);
         }
         return *this;
     }
@@ -32,14 +41,11 @@ public:
     HeldText& operator=(HeldText&& other) noexcept = default;
     ~HeldText() = default;
 
-    std::string_view view() const { return m_viewed != nullptr ? std::string_view(m_viewed, m_size) : m_own; }
+    std::string_view view() const { return m_view; }
 
 private:
-    HeldText(char const* viewed, std::size_t size) : m_viewed(viewed), m_size(size) {}
-
-    std::string m_own;
-    char const* m_viewed = nullptr;  // null: the text is m_own
-    std::size_t m_size = 0;
+    std::unique_ptr<std::string> m_own;
+    std::string_view m_view;  // of m_own when this object owns its text
 };
 
 }  // namespace quen_3_1

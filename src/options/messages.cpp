@@ -11,16 +11,18 @@ char const* typeNameUnsigned64() { return "unsigned 64 bit or hex"; }
 char const* typeNameDouble() { return "double"; }
 char const* typeNameText() { return "string"; }
 
-std::string cannotParse(std::string const& option, std::string const& text, std::string const& typeName) {
-    return "Option '" + option + "' can not parse '" + text + "' value, requires a type '" + typeName + "' here.";
+std::string cannotParse(std::string_view option, std::string const& text, std::string const& typeName) {
+    return "Option '" + std::string(option) + "' can not parse '" + text + "' value, requires a type '" + typeName +
+           "' here.";
 }
 
-std::string notAllowed(std::string const& option, std::string const& text, std::string const& allowedList) {
-    return "Option '" + option + "' does not allow value '" + text + "'. Possible values follows: " + allowedList;
+std::string notAllowed(std::string_view option, std::string const& text, std::string const& allowedList) {
+    return "Option '" + std::string(option) + "' does not allow value '" + text +
+           "'. Possible values follows: " + allowedList;
 }
 
-std::string ambiguousValue(std::string const& option, std::string const& allowedList) {
-    return "Ambiguous value for option '" + option + "'. Possible values follows: " + allowedList;
+std::string ambiguousValue(std::string_view option, std::string const& allowedList) {
+    return "Ambiguous value for option '" + std::string(option) + "'. Possible values follows: " + allowedList;
 }
 
 char const* nullText() { return "basic_string: construction from null is not valid"; }

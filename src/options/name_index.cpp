@@ -6,24 +6,20 @@
 
 namespace quen_3_1 {
 
-void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean,
+void NameIndex::add(std::size_t option, std::size_t nameIndex, std::string_view name, std::string_view negated,
                     std::uint64_t hash) {
     m_candidates.emplace_back(option, nameIndex, false, name, std::size_t{1}, name.size(), npos);
     insert(hash);
-    if (boolean) {
-        std::string negated;
-        negated.reserve(3 + name.size());
-        negated.append("no-").append(name);
-        Candidate const& added = m_candidates.emplace_back(option, nameIndex, true, std::move(negated), std::size_t{1},
-                                                           std::size_t{0}, npos);
-        insert(hashOf(added.text));
+    if (!negated.empty()) {
+        m_candidates.emplace_back(option, nameIndex, true, negated, std::size_t{1}, std::size_t{0}, npos);
+        insert(hashOf(negated));
     }
 }
 
 void NameIndex::insert(std::uint64_t hash) {
     std::size_t const id = m_candidates.size() - 1;
     Candidate& candidate = m_candidates[id];
-    std::string const& text = candidate.text;
+    std::string_view const text = candidate.text;
     char const* const end = text.data() + text.size();
     auto nextHyphen = [end](char const* from) {
         return static_cast<char const*>(std::memchr(from, '-', static_cast<std::size_t>(end - from)));
@@ -46,7 +42,7 @@ void NameIndex::linkShapes() const {
             m_shapes.resize(candidate.parts + 1);
         }
         m_nextShape.push_back(npos);
-        std::string_view const first = std::string_view(candidate.text).substr(0, candidate.firstEnd);
+        std::string_view const first = candidate.text.substr(0, candidate.firstEnd);
         link(m_shapes[candidate.parts].try_emplace(first, Chain{npos, npos}).first->second, id,
              [this](std::size_t at) -> std::size_t& { return m_nextShape[at]; });
     }

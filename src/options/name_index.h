@@ -27,25 +27,28 @@ public:
     static constexpr std::size_t npos = static_cast<std::size_t>(-1);
 
     struct Candidate {
-        std::size_t option;    // index of the option in the registry
-        std::size_t name;      // index of the name in the option's names
-        bool negated;          // the "no-" form of a boolean option's name
-        std::string text;      // the name as a whole ("no-" included)
-        std::size_t parts;     // number of '-'-separated parts
-        std::size_t firstEnd;  // length of the first part
-        std::size_t nextSame;  // the next candidate with the same text; npos after the last
+        std::size_t option;     // index of the option in the registry
+        std::size_t name;       // index of the name in the option's names
+        bool negated;           // the "no-" form of a boolean option's name
+        std::string_view text;  // the name as a whole ("no-" included), kept by the registry
+        std::size_t parts;      // number of '-'-separated parts
+        std::size_t firstEnd;   // length of the first part
+        std::size_t nextSame;   // the next candidate with the same text; npos after the last
     };
 
     // The hash the index files `name` under; a caller that looks a name up
     // and then adds it hashes it once.
     static std::uint64_t hashOf(std::string_view name) { return hashDeclaredName(name); }
 
-    // Adds the option's name at `nameIndex` and, for a boolean, its "no-" form.
-    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean) {
-        add(option, nameIndex, name, boolean, hashOf(name));
+    // Adds the option's name at `nameIndex` and, unless `negated` is empty
+    // (a boolean's is "no-" and the name), its "no-" form. The index views
+    // both texts: the caller keeps them for as long as the index.
+    void add(std::size_t option, std::size_t nameIndex, std::string_view name, std::string_view negated) {
+        add(option, nameIndex, name, negated, hashOf(name));
     }
     // The same with the name's hashOf.
-    void add(std::size_t option, std::size_t nameIndex, std::string const& name, bool boolean, std::uint64_t hash);
+    void add(std::size_t option, std::size_t nameIndex, std::string_view name, std::string_view negated,
+             std::uint64_t hash);
 
     // The first candidate named exactly `name` (follow nextNamed for the
     // others); npos when there is none.
@@ -71,7 +74,7 @@ private:
     bool before(std::size_t a, std::size_t b) const;
     // The text of a candidate, as the chain table reads its keys.
     auto textOf() const {
-        return [this](std::size_t id) { return std::string_view(m_candidates[id].text); };
+        return [this](std::size_t id) { return m_candidates[id].text; };
     }
     // Links `id` into `chain`, whose links `next(id)` gives.
     template <class Next>

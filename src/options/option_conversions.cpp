@@ -64,16 +64,15 @@ bool extractUnsigned64(char const* text, unsigned long long& out) {
 
 }  // namespace
 
-// A number is handed over, not assigned: the variant's assignment and the
-// temporary's destruction are out-of-line calls for two plain words.
+// A number is written in place: a temporary variant's construction and
+// destruction are out-of-line calls for two plain words.
 template <class T>
 bool OperationFromString::execute() {
     T number{};
     if (!extract(text, number)) {
         return false;
     }
-    tarvo2::variant_t converted(number);
-    transferVariant(value, converted);
+    setNumber(*value, number);
     return true;
 }
 
@@ -83,8 +82,7 @@ bool OperationFromString::execute<unsigned long long>() {
     if (!extractUnsigned64(text, number)) {
         return false;
     }
-    tarvo2::variant_t converted(number);
-    transferVariant(value, converted);
+    setNumber(*value, number);
     return true;
 }
 
@@ -93,7 +91,7 @@ bool OperationFromString::execute<unsigned long long>() {
 template <>
 bool OperationFromString::execute<char const*>() {
     tarvo2::variant_t owned(text);
-    transferVariant(value, owned);
+    transferVariant(*value, owned);
     return true;
 }
 
@@ -181,11 +179,15 @@ bool OptionDescription::typedOperation(Op& op) const {
 }
 
 tarvo2::variant_t OptionDescription::fromString(char const* text, Garbage* keeper) const {
-    OperationFromString op{this, keeper, text, tarvo2::variant_t()};
-    typedOperation(op);
     tarvo2::variant_t result;
-    transferVariant(result, op.value);
+    convert(text, keeper, result);
     return result;
+}
+
+void OptionDescription::convert(char const* text, Garbage* keeper, tarvo2::variant_t& value) const {
+    clearVariant(value);
+    OperationFromString op{this, keeper, text, &value};
+    typedOperation(op);
 }
 
 // Kinds without a conversion render as the empty text.

@@ -3,21 +3,32 @@
 #include <utility>
 
 #include "options/registered_option_storage.h"
+#include "options/required_text.h"
 
 namespace quen_3_1 {
 
-OptionDescription::OptionDescription()
-    : OptionDescription(std::vector<std::string>(), std::string(), std::string(), std::string(), tarvo2::vt_empty,
-                        nullptr) {}
+namespace {
 
-OptionDescription::OptionDescription(std::vector<std::string> names, std::string const& group,
+NameList ownedNames(std::vector<std::string> const& names) {
+    NameList list;
+    for (std::string const& name : names) {
+        list.own(name);
+    }
+    return list;
+}
+
+}  // namespace
+
+OptionDescription::OptionDescription()
+    : OptionDescription(NameList(), std::string(), std::string(), HeldText(), tarvo2::vt_empty, nullptr) {}
+
+OptionDescription::OptionDescription(std::vector<std::string> const& names, std::string const& group,
                                      std::string const& groupTitle, std::string description, kel_variant_type_t type,
                                      Garbage* garbage)
-    : OptionDescription(std::move(names), group, groupTitle, HeldText(std::move(description)), type, garbage) {}
+    : OptionDescription(ownedNames(names), group, groupTitle, HeldText(std::move(description)), type, garbage) {}
 
-OptionDescription::OptionDescription(std::vector<std::string>&& names, std::string const& group,
-                                     std::string const& groupTitle, HeldText description, kel_variant_type_t type,
-                                     Garbage* garbage)
+OptionDescription::OptionDescription(NameList&& names, std::string const& group, std::string const& groupTitle,
+                                     HeldText description, kel_variant_type_t type, Garbage* garbage)
     : m_status(0),
       m_names(std::move(names)),
       m_group(group),
@@ -30,10 +41,11 @@ OptionDescription::OptionDescription(std::vector<std::string>&& names, std::stri
       m_garbage(garbage) {}
 
 IOption* OptionDescription::synonym(char const* name) {
-    m_names.emplace_back(name);
-    if (m_link.registry != nullptr) {
-        m_link.registry->nameAdded(m_link.index);
+    if (m_link.registry == nullptr) {
+        m_names.own(requiredText(name));
+        return this;
     }
+    m_link.registry->addSynonym(m_link.index, requiredText(name), m_names);
     return this;
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "options/held_text.h"
+#include "options/name_list.h"
 #include "quen_3_1/quen.h"
 
 namespace quen_3_1 {
@@ -21,11 +22,12 @@ class OptionDescription final : public IOption {
 public:
     // The registry's placeholder: no names, kind vt_empty, no keeper.
     OptionDescription();
-    OptionDescription(std::vector<std::string> names, std::string const& group, std::string const& groupTitle,
+    // One that owns copies of its names and description.
+    OptionDescription(std::vector<std::string> const& names, std::string const& group, std::string const& groupTitle,
                       std::string description, kel_variant_type_t type, Garbage* garbage);
-    // The registry's: the description views text the registry keeps.
-    OptionDescription(std::vector<std::string>&& names, std::string const& group, std::string const& groupTitle,
-                      HeldText description, kel_variant_type_t type, Garbage* garbage);
+    // The registry's: names and description view text the registry keeps.
+    OptionDescription(NameList&& names, std::string const& group, std::string const& groupTitle, HeldText description,
+                      kel_variant_type_t type, Garbage* garbage);
     OptionDescription(OptionDescription const& other) = default;
     OptionDescription& operator=(OptionDescription const& other) = default;
     ~OptionDescription() override = default;
@@ -38,9 +40,9 @@ public:
 
     std::int32_t status() const { return m_status; }
     void setStatus(std::int32_t status) { m_status = status; }
-    std::vector<std::string> const& names() const { return m_names; }
-    // Throws std::out_of_range for an option registered without names.
-    std::string const& primaryName() const { return m_names.at(0); }
+    NameList const& names() const { return m_names; }
+    // Followed by a NUL. Throws std::out_of_range for an option registered without names.
+    std::string_view primaryName() const { return m_names.at(0); }
     std::string const& group() const { return m_group; }
     std::string const& groupTitle() const { return m_groupTitle; }
     std::string_view description() const { return m_description.view(); }
@@ -52,7 +54,8 @@ public:
     std::vector<tarvo2::variant_t> const& allowedValues() const { return m_allowedValues; }
     Garbage* garbage() const { return m_garbage; }
     // Called by the registry that stores this description, so that names and
-    // the positional flag set later reach its indexes.
+    // the positional flag set later reach its indexes, and its synonyms are
+    // kept with its other names.
     void linkTo(RegisteredOptionStorage* registry, std::size_t index) {
         m_link.registry = registry;
         m_link.index = index;
@@ -64,6 +67,8 @@ public:
     bool typedOperation(Op& op) const;
     // The text converted to m_type; vt_empty when it does not convert.
     tarvo2::variant_t fromString(char const* text, Garbage* keeper) const;
+    // The same into `value`, whose content is released first.
+    void convert(char const* text, Garbage* keeper, tarvo2::variant_t& value) const;
     // The value rendered through m_type, interned in `keeper`.
     char const* toString(Garbage* keeper, tarvo2::variant_t const& value) const;
     // Display name of m_type used in messages and help.
@@ -79,7 +84,7 @@ private:
     AbbreviationOutcome validateAbbreviation(std::string& text, tarvo2::variant_t& value, std::string& message) const;
 
     std::int32_t m_status;
-    std::vector<std::string> m_names;
+    NameList m_names;
     std::string m_group;
     std::string m_groupTitle;
     HeldText m_description;

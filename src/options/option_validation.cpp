@@ -25,8 +25,7 @@ std::string allowedTextOf(tarvo2::variant_t const& allowed) {
 }  // namespace
 
 bool OptionDescription::validate(std::string& text, tarvo2::variant_t& value, std::string& message) const {
-    tarvo2::variant_t converted = fromString(text.c_str(), m_garbage);
-    transferVariant(value, converted);
+    convert(text.c_str(), m_garbage, value);
     if (value.m_type == tarvo2::vt_empty) {
         message = option_messages::cannotParse(primaryName(), text, getTypeName());
         return false;

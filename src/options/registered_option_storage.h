@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -42,8 +43,9 @@ public:
     NameIndex const& names() const { return m_names; }
     // Index of the first option declared positional; all bits set when there is none.
     std::size_t firstPositional() const { return m_firstPositional; }
-    // Told by a stored option when the host refines it.
-    void nameAdded(std::size_t option);
+    // Told by a stored option when the host refines it. A synonym is kept
+    // here, appended to `names` (the option's) and to the index.
+    void addSynonym(std::size_t option, char const* name, NameList& names);
     void positionalSet(std::size_t option);
 
     void setGarbage(Garbage* garbage) { m_garbage = garbage; }
@@ -56,14 +58,25 @@ private:
     // The hashes of a name list that may be registered (at most three names).
     using NameHashes = std::array<std::uint64_t, 3>;
 
-    std::pair<std::string, std::string> const& recordGroup(std::string_view group);
-    int validateName(std::vector<std::string> const& names, NameHashes& hashes);
-    int findOption(std::vector<std::string> const& names, NameHashes const& hashes, unsigned long& index) const;
+    std::pair<std::string, std::string> const& recordGroup(char const* group);
+    // An accepted option's texts as the arena keeps them; `negated` only for a boolean.
+    struct KeptTexts {
+        NameList names;
+        std::array<std::string_view, std::tuple_size<NameHashes>::value> negated{};
+        std::string_view description;
+    };
+    KeptTexts keepTexts(NameList const& listed, bool boolean, std::string_view description);
+    // A copy of `name` in the arena; a boolean's "no-" form of it in `negated`,
+    // else an empty view.
+    std::string_view keep(std::string_view name, bool boolean, std::string_view& negated);
+    int validateName(NameList const& names, NameHashes& hashes);
+    int findOption(NameList const& names, NameHashes const& hashes, unsigned long& index) const;
     // True with `index` set to the option of `candidate`, unless it is npos.
     bool found(std::size_t candidate, unsigned long& index) const;
 
-    // The descriptions' texts: one block for many options instead of one
-    // allocation each. Declared first, so that it outlives the options.
+    // The descriptions' texts and the options' names: one block for many
+    // options instead of allocations each. Declared first, so that it
+    // outlives the options and the index.
     TextArena m_texts;
     StableList<OptionDescription> m_options;
     std::vector<std::pair<std::string, std::string>> m_groups;

@@ -13,12 +13,13 @@ class OptionDescription;
 // Operation records run by OptionDescription::typedOperation for the native
 // type of an option's kind. Each lives for one call.
 
-// Text (input) to value (output, vt_empty until converted).
+// Text (input) to value (output into `value`, which owns nothing and stays
+// vt_empty unless the text converts).
 struct OperationFromString {
     OptionDescription const* owner;
     Garbage* keeper;
     char const* text;
-    tarvo2::variant_t value;
+    tarvo2::variant_t* value;
 
     template <class T>
     bool execute();

@@ -86,7 +86,7 @@ Status AbbreviationParser::parse(ArgumentList& args, Recognition const& found, I
     if (decided != Status::Ok) {
         return decided;
     }
-    m_handler->onOptionParse(option.primaryName().c_str());
+    m_handler->onOptionParse(option.primaryName().data());
     internal::trace(m_name, ": sent event on option parsed");
     Status const stored = parseValueAndAddOption(value, message, option, args, collector);
     if (stored != Status::Ok) {

@@ -46,17 +46,9 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
         char const tokenizer = option.tokenizer();
         if (tokenizer != 0) {
             internal::trace(m_name, ": using tokenizer on char: '", tokenizer, "'");
-            std::vector<std::string>& pieces = m_pieces;
-            pieces.clear();
-            splitAtSeparator(value, tokenizer, pieces);
-            for (std::string& piece : pieces) {
-                internal::trace(m_name, ": value is: '", piece, "'");
-                Status const status = addValue(piece, value, message, option, args, data);
-                if (status != Status::Ok) {
-                    return status;
-                }
-                internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
-                                data.m_values.back().first.first, "'");
+            Status const status = addPieces(value, tokenizer, message, option, args, data);
+            if (status != Status::Ok) {
+                return status;
             }
         } else {
             internal::trace(m_name, ": not using tokenizer");
@@ -74,6 +66,37 @@ Status IArgumentParser::parseValueAndAddOption(std::string& value, std::string& 
     return Status::Ok;
 }
 
+// Most values hold no separator: they are their own single piece, taken
+// without splitting them into the list of pieces.
+Status IArgumentParser::addPieces(std::string const& value, char tokenizer, std::string& message,
+                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+    if (value.find(tokenizer) == std::string::npos) {
+        std::string piece = value;
+        return addPiece(piece, value, message, option, args, data);
+    }
+    std::vector<std::string>& pieces = m_pieces;
+    pieces.clear();
+    splitAtSeparator(value, tokenizer, pieces);
+    for (std::string& piece : pieces) {
+        Status const status = addPiece(piece, value, message, option, args, data);
+        if (status != Status::Ok) {
+            return status;
+        }
+    }
+    return Status::Ok;
+}
+
+Status IArgumentParser::addPiece(std::string& piece, std::string const& whole, std::string& message,
+                                 OptionDescription const& option, ArgumentList const& args, OptionData& data) {
+    internal::trace(m_name, ": value is: '", piece, "'");
+    Status const status = addValue(piece, whole, message, option, args, data);
+    if (status == Status::Ok) {
+        internal::trace(m_name, ": sent event on value parsed, option: '", option.primaryName(), "', value: '",
+                        data.m_values.back().first.first, "'");
+    }
+    return status;
+}
+
 Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
     message = recognizer_messages::numbersExhausted();
     internal::trace(m_name, ": ", message);
@@ -85,9 +108,10 @@ Status IArgumentParser::refuseForWantOfNumbers(std::string& message) {
 // swap is an out-of-line call), and the piece is not read again.
 Status IArgumentParser::addValue(std::string& piece, std::string const& whole, std::string& message,
                                  OptionDescription const& option, ArgumentList const& args, OptionData& data) {
-    tarvo2::variant_t converted;
+    // The event's variant takes the converted value, so no other variant is made for it.
+    Value event{nullptr, 0, 0, tarvo2::variant_t()};
     std::string reason;
-    if (!option.validate(piece, converted, reason)) {
+    if (!option.validate(piece, event.m_value, reason)) {
         message = recognizer_messages::validationProblem(std::string(args[0]), reason);
         internal::trace(m_name, ": ", message);
         return Status::Failed;
@@ -96,9 +120,9 @@ Status IArgumentParser::addValue(std::string& piece, std::string const& whole, s
     if (number == kNoNumber) {
         return refuseForWantOfNumbers(message);
     }
-    Value event{piece.c_str(), 0, number, tarvo2::variant_t()};
-    transferVariant(event.m_value, converted);
-    if (!m_handler->onValueParse(option.primaryName().c_str(), event)) {
+    event.m_text = piece.c_str();
+    event.m_index = number;
+    if (!m_handler->onValueParse(option.primaryName().data(), event)) {
         message = recognizer_messages::valueVetoed(whole, option.primaryName(), std::string(args[0]));
         internal::trace(m_name, message, " One of the handler signaled the value is not valid.");
         return Status::Vetoed;

@@ -70,6 +70,12 @@ private:
 
     // Sets the message and answers NumbersExhausted.
     Status refuseForWantOfNumbers(std::string& message);
+    // Adds each piece of `value` cut at `tokenizer`, in order, up to the first refused one.
+    Status addPieces(std::string const& value, char tokenizer, std::string& message, OptionDescription const& option,
+                     ArgumentList const& args, OptionData& data);
+    // Adds one piece, with its trace lines.
+    Status addPiece(std::string& piece, std::string const& whole, std::string& message, OptionDescription const& option,
+                    ArgumentList const& args, OptionData& data);
     Status addValue(std::string& piece, std::string const& whole, std::string& message, OptionDescription const& option,
                     ArgumentList const& args, OptionData& data);
 };

@@ -12,20 +12,21 @@ std::string ambiguousOption(std::string const& typed, std::string const& token, 
 }
 
 // The missing blank after the name is what hosts have always matched.
-std::string valueRefused(std::string const& option, std::string const& token) {
-    return "Option '" + option + "'does not requires a value" + token;
+std::string valueRefused(std::string_view option, std::string const& token) {
+    return "Option '" + std::string(option) + "'does not requires a value" + token;
 }
 
-std::string booleanForm(std::string const& option, std::string const& token) {
-    return "Option '" + option + "' is boolean and should be declared in form '--option' or '--no-option'" + token;
+std::string booleanForm(std::string_view option, std::string const& token) {
+    return "Option '" + std::string(option) +
+           "' is boolean and should be declared in form '--option' or '--no-option'" + token;
 }
 
-std::string valueRequired(std::string const& option, std::string const& token) {
-    return "Option '" + option + "' requires a value" + token;
+std::string valueRequired(std::string_view option, std::string const& token) {
+    return "Option '" + std::string(option) + "' requires a value" + token;
 }
 
-std::string nextLooksLikeOption(std::string const& option, std::string const& value) {
-    return "Option '" + option + "received value from the next argument: '" + value +
+std::string nextLooksLikeOption(std::string_view option, std::string const& value) {
+    return "Option '" + std::string(option) + "received value from the next argument: '" + value +
            "', but it seems to be an option. Use '-option=value' declaration form or make sure that value is not "
            "missed";
 }
@@ -34,8 +35,8 @@ std::string validationProblem(std::string const& argument, std::string const& re
     return "Value validation problem in argument '" + argument + "': " + reason;
 }
 
-std::string valueVetoed(std::string const& value, std::string const& option, std::string const& argument) {
-    return "Value '" + value + "' is not valid for option '" + option + "' in argument '" + argument + "'";
+std::string valueVetoed(std::string const& value, std::string_view option, std::string const& argument) {
+    return "Value '" + value + "' is not valid for option '" + std::string(option) + "' in argument '" + argument + "'";
 }
 
 char const* numbersExhausted() { return "Sequence numbers exhausted: this process can number no more values."; }

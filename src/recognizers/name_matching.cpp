@@ -79,7 +79,9 @@ std::vector<std::size_t> const& BestNameMatch::find(NameIndex const& index, std:
 std::string listCandidates(NameIndex const& index, std::vector<std::size_t> const& ids) {
     std::string list;
     for (std::size_t i = 0; i < ids.size(); ++i) {
-        list += "'" + index.candidate(ids[i]).text + (i + 1 < ids.size() ? "', " : "'");
+        list += "'";
+        list += index.candidate(ids[i]).text;
+        list += i + 1 < ids.size() ? "', " : "'";
     }
     return list;
 }

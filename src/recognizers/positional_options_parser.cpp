@@ -30,7 +30,7 @@ Status PositionalOptionsParser::parse(ArgumentList& args, Recognition const& fou
     internal::trace(m_name, ": option is '", option.primaryName(), "'");
     for (;;) {
         std::string value(args[0]);
-        m_handler->onOptionParse(option.primaryName().c_str());
+        m_handler->onOptionParse(option.primaryName().data());
         Status const status = parseValueAndAddOption(value, message, option, args, collector);
         if (status != Status::Ok) {
             return status;

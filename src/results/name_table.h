@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -37,7 +38,7 @@ public:
         if (m_slots[at].named != nullptr) {
             return {&m_slots[at].named->second, false};
         }
-        m_named.emplace_back(std::string(name), fresh);
+        m_named.emplace_back(std::piecewise_construct, std::forward_as_tuple(name), std::forward_as_tuple(fresh));
         m_slots[at] = Slot{hash, &m_named.back()};
         return {&m_named.back().second, true};
     }

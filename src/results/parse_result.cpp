@@ -23,7 +23,7 @@ int ParseResult::store(OptionDescription const& option, OptionData const& data) 
 // The first store of an option finds its primary name new. Only the odd
 // cases, where one occurrence goes to several records, copy the values.
 int ParseResult::store(OptionDescription const& option, OptionData& data) {
-    std::vector<std::string> const& names = option.names();
+    NameList const& names = option.names();
     auto const primary = m_names.findOrAdd(names.at(0), NameEntry{kNoRecord, ValueLog::kEnd});
     if (primary.second) {
         replaceUnderEveryName(names, *primary.first, data);
@@ -37,7 +37,7 @@ int ParseResult::store(OptionDescription const& option, OptionData& data) {
 
 // The common case, checked without allocating: a few distinct names, all
 // reaching `record`, and no other name reaching it.
-bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const {
+bool ParseResult::reachesOnlyItsOwnRecord(NameList const& names, std::size_t record) const {
     constexpr std::size_t kFew = 4;
     if (names.size() > kFew || m_records[record].names != names.size()) {
         return false;
@@ -56,7 +56,7 @@ bool ParseResult::reachesOnlyItsOwnRecord(std::vector<std::string> const& names,
     return true;
 }
 
-void ParseResult::replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data) {
+void ParseResult::replaceUnderEveryName(NameList const& names, NameEntry& primary, OptionData& data) {
     std::size_t const id = newRecord();
     appendTaking(id, data);
     std::uint32_t const kept = keptDefault(data.m_default);
@@ -80,10 +80,10 @@ std::uint32_t ParseResult::keptDefault(ValueEntry const& entry) {
 // record but would not append alike (listed a different number of times, or
 // the record also reached by a name outside this option) each get a copy of
 // it first; a name without a record gets an empty one.
-void ParseResult::appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data) {
+void ParseResult::appendUnderEveryName(NameList const& names, OptionData const& data) {
     std::vector<NameEntry*> listed;
     listed.reserve(names.size());
-    for (std::string const& name : names) {
+    for (std::string_view const name : names) {
         listed.push_back(m_names.findOrAdd(name, NameEntry{kNoRecord, ValueLog::kEnd}).first);
     }
     std::sort(listed.begin(), listed.end());
@@ -178,7 +178,7 @@ Status ParseResult::applyDefault(RegisteredOptionStorage& storage, std::string& 
             continue;
         }
         std::size_t shared = kNoRecord;
-        for (std::string const& name : option.names()) {
+        for (std::string_view const name : option.names()) {
             std::int32_t const number = IArgumentParser::takeNumber();
             if (number == IArgumentParser::kNoNumber) {
                 message = recognizer_messages::numbersExhausted();

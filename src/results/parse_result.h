@@ -18,6 +18,7 @@
 
 namespace quen_3_1 {
 
+class NameList;
 class RegisteredOptionStorage;
 
 // The result of one or more parses: one record of occurrences and values per
@@ -92,9 +93,9 @@ private:
         std::size_t record = kNoRecord;
     };
 
-    bool reachesOnlyItsOwnRecord(std::vector<std::string> const& names, std::size_t record) const;
-    void replaceUnderEveryName(std::vector<std::string> const& names, NameEntry& primary, OptionData& data);
-    void appendUnderEveryName(std::vector<std::string> const& names, OptionData const& data);
+    bool reachesOnlyItsOwnRecord(NameList const& names, std::size_t record) const;
+    void replaceUnderEveryName(NameList const& names, NameEntry& primary, OptionData& data);
+    void appendUnderEveryName(NameList const& names, OptionData const& data);
     void appendTimes(std::size_t record, OptionData const& data, std::size_t times);
     void appendTaking(std::size_t record, OptionData& data);
     std::uint32_t keptDefault(ValueEntry const& entry);

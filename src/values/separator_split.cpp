@@ -33,34 +33,14 @@ void splitTerminated(char const* data, std::size_t size, char separator, std::ve
     if (out.empty()) {
         out.reserve(separatorsFrom(first, data + size, separator) + 1);
     }
-    // Each search skips to the next separator; the character right after one
-    // is never tested.
-    std::size_t start = 0;
-    std::size_t pos = 0;
-    while (pos < size) {
-        void const* const hit = std::memchr(data + pos, separator, size - pos);
-        if (hit == nullptr) {
-            pos = size;
-            break;
-        }
-        auto const at = static_cast<std::size_t>(static_cast<char const*>(hit) - data);
-        out.emplace_back(data + start, at - start);
-        start = at + 1;
-        pos = at + 2;
-    }
-    if (start != pos) {
-        out.emplace_back(data + start, pos - start);
-    }
+    forEachPiece(std::string_view(data, size), separator,
+                 [&out](std::string_view piece) { out.emplace_back(piece.data(), piece.size()); });
 }
 
 }  // namespace
 
 void splitAtSeparator(std::string const& text, char separator, std::vector<std::string>& out) {
     splitTerminated(text.c_str(), text.size(), separator, out);
-}
-
-void splitAtSeparator(char const* text, char separator, std::vector<std::string>& out) {
-    splitTerminated(text, std::strlen(text), separator, out);
 }
 
 }  // namespace quen_3_1

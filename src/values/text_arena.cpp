@@ -13,12 +13,15 @@ constexpr std::size_t kFirstBlocks = 8;
 
 }  // namespace
 
-char const* TextArena::copy(std::string_view text) {
-    std::size_t const size = text.size();
+char const* TextArena::copy(std::string_view head, std::string_view tail) {
+    std::size_t const size = head.size() + tail.size();
     char* const out = reserve(sizeof size + size + 1) + sizeof size;
     std::memcpy(out - sizeof size, &size, sizeof size);
-    if (size != 0) {
-        std::memcpy(out, text.data(), size);
+    if (!head.empty()) {
+        std::memcpy(out, head.data(), head.size());
+    }
+    if (!tail.empty()) {
+        std::memcpy(out + head.size(), tail.data(), tail.size());
     }
     out[size] = '\0';
     return out;

@@ -18,7 +18,12 @@ public:
     TextArena& operator=(TextArena const&) = delete;
 
     // A copy of `text` followed by a NUL; valid as long as the arena.
-    char const* copy(std::string_view text);
+    char const* copy(std::string_view text) { return copy(std::string_view(), text); }
+    // A copy of `head` and `tail`, one after the other, followed by a NUL.
+    char const* copy(std::string_view head, std::string_view tail);
+    // Room for `size` characters, filled by the caller, valid as long as the
+    // arena; not a copy that copied() can measure.
+    char* place(std::size_t size) { return reserve(size); }
     // The text a pointer from copy() stands for, NUL characters included.
     static std::string_view copied(char const* copy);
 

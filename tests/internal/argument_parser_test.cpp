@@ -370,6 +370,17 @@ TEST_F(ArgumentParserTest, HandlerVetoOfTheSecondPieceStoresNothing) {
     EXPECT_EQ(m_collector->stored[0].m_positions, std::vector<std::int32_t>({before + 3}));
 }
 
+TEST_F(ArgumentParserTest, VetoOfAnAbbreviatedSinglePieceQuotesTheTextAsGiven) {
+    OptionDescription& option = declare("mode", tarvo2::vt_str);
+    option.allowValue(tarvo2::variant_t("fast"))->allowValue(tarvo2::variant_t("small"));
+    m_watcher.vetoAt = 1;
+    EXPECT_EQ(run("s", option, "--mode=s"), 1);
+    EXPECT_EQ(m_message, "Value 's' is not valid for option 'mode' in argument '--mode=s'");
+    ASSERT_EQ(m_watcher.events.size(), 1u);
+    EXPECT_EQ(m_watcher.events[0].text, "small");
+    EXPECT_TRUE(m_collector->stored.empty());
+}
+
 TEST_F(ArgumentParserTest, HandlerVetoWithoutTokenizer) {
     OptionDescription& option = declare("path", tarvo2::vt_str);
     option.tokenize(0);

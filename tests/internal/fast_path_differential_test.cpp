@@ -96,8 +96,8 @@ public:
             IOption* const option = storage.option(list.c_str(), "d", kinds[below(6)], "g");
             if (storage.size() > before) {
                 stored.push_back(option);
-                for (std::string const& n : storage.at(before).names()) {
-                    known.push_back(n);
+                for (std::string_view const n : storage.at(before).names()) {
+                    known.emplace_back(n);
                 }
             }
             if (!stored.empty() && below(4) == 0) {
@@ -143,7 +143,7 @@ Outcome byIndex(quen_test::IndexedNameMatching& parser, RegisteredOptionStorage&
     std::size_t best = kNoOption;
     outcome.code = parser.findBestIndexed(storage.names(), typed, best, outcome.message);
     outcome.matches = parser.bestMatches();
-    outcome.best = outcome.code == 0 ? storage.names().candidate(best).text : "";
+    outcome.best = outcome.code == 0 ? std::string(storage.names().candidate(best).text) : "";
     return outcome;
 }
 

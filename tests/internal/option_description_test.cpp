@@ -12,6 +12,7 @@
 #include "frontend/trace.h"
 #include "options/registered_option_storage.h"
 #include "support/internal_fixture.h"
+#include "support/name_texts.h"
 #include "values/garbage.h"
 
 using quen_3_1::Garbage;
@@ -51,7 +52,7 @@ TEST_F(OptionDescriptionTest, FieldsRightAfterRegistration) {
     OptionDescription const& d = stored();
     EXPECT_EQ(option, static_cast<IOption const*>(&d));
     EXPECT_EQ(d.status(), 0);
-    EXPECT_EQ(d.names(), (Names{"log-file", "lf"}));
+    EXPECT_EQ(quen_test::namesOf(d), (Names{"log-file", "lf"}));
     EXPECT_EQ(d.primaryName(), "log-file");
     EXPECT_EQ(d.group(), "general");
     EXPECT_EQ(d.groupTitle(), "General options");
@@ -88,7 +89,7 @@ TEST_F(OptionDescriptionTest, SettersChain) {
         ->tokenize(0)
         ->positional();
     OptionDescription const& d = stored();
-    EXPECT_EQ(d.names(), (Names{"level", "lvl"}));
+    EXPECT_EQ(quen_test::namesOf(d), (Names{"level", "lvl"}));
     ASSERT_EQ(d.allowedValues().size(), 2u);
     EXPECT_EQ(d.allowedValues()[0].as<int>(), 1);
     EXPECT_EQ(d.allowedValues()[1].as<int>(), 2);
@@ -101,14 +102,14 @@ TEST_F(OptionDescriptionTest, SettersChain) {
 TEST_F(OptionDescriptionTest, SynonymAppendsWithoutDuplicateCheck) {
     IOption* const option = declare("verbose,v", tarvo2::vt_bool);
     option->synonym("talk")->synonym("v")->synonym("");
-    EXPECT_EQ(stored().names(), (Names{"verbose", "v", "talk", "v", ""}));
+    EXPECT_EQ(quen_test::namesOf(stored()), (Names{"verbose", "v", "talk", "v", ""}));
     EXPECT_EQ(stored().primaryName(), "verbose");
 }
 
 TEST_F(OptionDescriptionTest, SynonymOfNullThrowsLogicError) {
     IOption* const option = declare("name", tarvo2::vt_str);
     EXPECT_THROW(option->synonym(nullptr), std::logic_error);
-    EXPECT_EQ(stored().names(), (Names{"name"}));
+    EXPECT_EQ(quen_test::namesOf(stored()), (Names{"name"}));
 }
 
 TEST_F(OptionDescriptionTest, TokenizeSetsAndClearsTheSplitCharacter) {
@@ -185,7 +186,7 @@ TEST(OptionDescriptionCopy, CopyOwnsItsTextDefaultAndAllowedValues) {
     EXPECT_NE(copy.allowedValues()[0].as<char const*>(), original->allowedValues()[0].as<char const*>());
     original.reset();
     EXPECT_EQ(copy.status(), 3);
-    EXPECT_EQ(copy.names(), (Names{"mode", "m"}));
+    EXPECT_EQ(quen_test::namesOf(copy), (Names{"mode", "m"}));
     EXPECT_EQ(copy.group(), "general");
     EXPECT_EQ(copy.groupTitle(), "General options");
     EXPECT_EQ(copy.description(), "How to run");
@@ -210,7 +211,7 @@ TEST(OptionDescriptionCopy, AssignmentOwnsItsTextDefault) {
         target = source;
         EXPECT_NE(target.getDefault().as<char const*>(), source.getDefault().as<char const*>());
     }
-    EXPECT_EQ(target.names(), (Names{"mode"}));
+    EXPECT_EQ(quen_test::namesOf(target), (Names{"mode"}));
     EXPECT_EQ(target.type(), tarvo2::vt_str);
     EXPECT_STREQ(target.getDefault().as<char const*>(), "kept");
     EXPECT_EQ(target.garbage(), &keeper);
@@ -229,7 +230,7 @@ TEST(OptionDescriptionCopy, CopyOfARegisteredOptionOutlivesTheRegistry) {
     OptionDescription const copy(registry->at(0));
     registry.reset();
     EXPECT_EQ(copy.description(), "Where to write the log");
-    EXPECT_EQ(copy.names(), (Names{"log-file", "lf"}));
+    EXPECT_EQ(quen_test::namesOf(copy), (Names{"log-file", "lf"}));
     EXPECT_EQ(copy.group(), "general");
 }
 

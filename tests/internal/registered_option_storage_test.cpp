@@ -13,6 +13,7 @@
 #include "support/capture.h"
 #include "support/internal_fixture.h"
 #include "support/literal_name_matching.h"
+#include "support/name_texts.h"
 #include "values/garbage.h"
 
 using quen_3_1::Garbage;
@@ -88,6 +89,18 @@ TEST_F(Registry, GroupsKeepFirstSeenOrderAndCase) {
     EXPECT_EQ(m_storage.groups(), (Groups{{"beta", ""}, {"alpha", ""}, {"Alpha", ""}}));
 }
 
+TEST_F(Registry, GroupNamedByTheBeginningOfAnotherIsAGroupOfItsOwn) {
+    add("a", tarvo2::vt_int, "general:General options");
+    add("b", tarvo2::vt_int, "gen");
+    add("c", tarvo2::vt_int, "general-more");
+    add("d", tarvo2::vt_int, "gen:Short");
+    add("e", tarvo2::vt_int, "general:");
+    EXPECT_EQ(m_storage.groups(), (Groups{{"general", "General options"}, {"gen", ""}, {"general-more", ""}}));
+    EXPECT_EQ(m_storage.at(3).group(), "gen");
+    EXPECT_EQ(m_storage.at(3).groupTitle(), "");
+    EXPECT_EQ(m_storage.at(4).groupTitle(), "General options");
+}
+
 TEST_F(Registry, RefusedRegistrationStillRecordsItsGroup) {
     add("a", tarvo2::vt_int, "one");
     FdCapture err(2);
@@ -105,29 +118,59 @@ TEST_F(Registry, RefusedRegistrationStillRecordsItsGroup) {
 
 TEST_F(Registry, NamesAreSplitAtCommas) {
     add("log-file,lf");
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"log-file", "lf"}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"log-file", "lf"}));
+}
+
+TEST_F(Registry, NamesAreKeptApartFromTheHostsTextEachEndedByNul) {
+    std::string list = "log-file,lf";
+    add(list.c_str(), tarvo2::vt_bool);
+    list.assign("overwritten");
+    OptionDescription const& stored = m_storage.at(0);
+    EXPECT_EQ(quen_test::namesOf(stored), (Names{"log-file", "lf"}));
+    for (std::string_view const name : stored.names()) {
+        EXPECT_EQ(name.data()[name.size()], '\0') << name;
+    }
+    EXPECT_STREQ(stored.primaryName().data(), "log-file");
+    std::size_t const negated = m_storage.names().firstNamed("no-lf");
+    ASSERT_NE(negated, quen_3_1::NameIndex::npos);
+    EXPECT_TRUE(m_storage.names().candidate(negated).negated);
+    EXPECT_EQ(m_storage.names().candidate(negated).option, 0u);
+}
+
+TEST_F(Registry, SynonymOfAStoredBooleanIsKeptWithItsNegatedForm) {
+    IOption* const option = add("verbose", tarvo2::vt_bool);
+    std::string synonym = "loud";
+    option->synonym(synonym.c_str());
+    synonym.assign("gone");
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"verbose", "loud"}));
+    std::size_t const negated = m_storage.names().firstNamed("no-loud");
+    ASSERT_NE(negated, quen_3_1::NameIndex::npos);
+    EXPECT_EQ(m_storage.names().candidate(negated).text, "no-loud");
+    EXPECT_EQ(m_storage.names().candidate(negated).name, 1u);
+    EXPECT_THROW(option->synonym(nullptr), std::logic_error);
+    EXPECT_EQ(m_storage.at(0).names().size(), 2u);
 }
 
 TEST_F(Registry, DoubleCommaKeepsTheSecondCommaInTheName) {
     add("a,,b");
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"a", ",b"}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"a", ",b"}));
 }
 
 TEST_F(Registry, LeadingCommaGivesAnEmptyFirstName) {
     add(",a");
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"", "a"}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"", "a"}));
 }
 
 TEST_F(Registry, TrailingCommaGivesANulName) {
     add("a,");
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"a", kNul}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"a", kNul}));
 }
 
 TEST_F(Registry, TrailingCommaNulNamePassesTheShortFormRule) {
     IOption* const option = add("x,y,");
     EXPECT_FALSE(isPlaceholder(option));
     ASSERT_EQ(m_storage.size(), 1u);
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"x", "y", kNul}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"x", "y", kNul}));
 }
 
 TEST_F(Registry, EmptyNameListRegistersANamelessOption) {
@@ -185,7 +228,7 @@ TEST_F(Registry, ThirdNameOfTwoCharactersIsAccepted) {
     IOption* const option = add("long,second,xy");
     EXPECT_FALSE(isPlaceholder(option));
     ASSERT_EQ(m_storage.size(), 1u);
-    EXPECT_EQ(m_storage.at(0).names(), (Names{"long", "second", "xy"}));
+    EXPECT_EQ(quen_test::namesOf(m_storage.at(0)), (Names{"long", "second", "xy"}));
 }
 
 TEST_F(Registry, SecondNameMayBeLong) {
@@ -329,7 +372,7 @@ TEST_F(Registry, SettersOnThePlaceholderChangeNothingInTheRegistry) {
     EXPECT_EQ(refused->positional(), refused);
     ASSERT_EQ(m_storage.size(), 1u);
     OptionDescription const& level = m_storage.at(0);
-    EXPECT_EQ(level.names(), (Names{"level"}));
+    EXPECT_EQ(quen_test::namesOf(level), (Names{"level"}));
     EXPECT_FALSE(level.hasDefault());
     EXPECT_TRUE(level.allowedValues().empty());
     EXPECT_EQ(level.tokenizer(), ',');

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -64,12 +65,14 @@ TEST(SeparatorSplit, AppendsToExistingPieces) {
     EXPECT_EQ(out, (Pieces{"kept", "a", "b"}));
 }
 
-// A host's NUL-terminated name list splits as the same text held in a string.
-TEST(SeparatorSplit, TerminatedTextSplitsLikeTheSameString) {
+// A host's NUL-terminated name list, cut in place as views, gives the pieces
+// of the same text held in a string; a trailing separator's piece views the NUL.
+TEST(SeparatorSplit, PiecesOfATerminatedTextAreThoseOfTheSameString) {
     for (char const* text : {"", "a", "a,b", "a,,b", ",a", "a,", ",", ",,", "a,b,c,", "log-file,lf,l"}) {
-        Pieces fromText;
-        quen_3_1::splitAtSeparator(text, ',', fromText);
-        EXPECT_EQ(fromText, split(std::string(text))) << text;
+        Pieces viewed;
+        quen_3_1::forEachPiece(std::string_view(text), ',',
+                               [&viewed](std::string_view piece) { viewed.emplace_back(piece); });
+        EXPECT_EQ(viewed, split(std::string(text))) << text;
     }
 }
 

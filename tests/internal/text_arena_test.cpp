@@ -66,3 +66,13 @@ TEST(TextArena, CopiedGivesBackTheWholeTextNulCharactersIncluded) {
     EXPECT_EQ(TextArena::copied(a), withNul);
     EXPECT_EQ(TextArena::copied(b), std::string_view());
 }
+
+TEST(TextArena, JoinedCopyHoldsBothTextsAndItsLength) {
+    TextArena arena;
+    char const* const copy = arena.copy("no-", std::string_view("verbose"));
+    EXPECT_STREQ(copy, "no-verbose");
+    EXPECT_EQ(TextArena::copied(copy), "no-verbose");
+    char const* const tailOnly = arena.copy(std::string_view(), std::string_view("x\0y", 3));
+    EXPECT_EQ(TextArena::copied(tailOnly), std::string_view("x\0y", 3));
+    EXPECT_EQ(tailOnly[3], '\0');
+}

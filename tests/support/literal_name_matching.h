@@ -35,10 +35,10 @@ public:
                                     std::vector<quen_3_1::DecomposedName>& names) {
         for (std::size_t i = 0; i < storage.size(); ++i) {
             quen_3_1::OptionDescription const& option = storage.at(i);
-            for (std::string const& name : option.names()) {
-                names.emplace_back(name);
+            for (std::string_view const name : option.names()) {
+                names.emplace_back(std::string(name));
                 if (option.type() == tarvo2::vt_bool) {
-                    names.emplace_back("no-" + name);
+                    names.emplace_back("no-" + std::string(name));
                 }
             }
         }
@@ -128,7 +128,7 @@ public:
         m_bestMatches.clear();
         for (std::size_t const id : ids) {
             m_bestMatches.push_back(
-                NameMatch{true, m_matcher.score(), quen_3_1::DecomposedName(index.candidate(id).text)});
+                NameMatch{true, m_matcher.score(), quen_3_1::DecomposedName(std::string(index.candidate(id).text))});
         }
         if (ids.empty()) {
             return 1;

@@ -16,7 +16,7 @@ namespace quen_test {
 
 // An option answers to its own names, and a boolean also to "no-" + each of them.
 inline bool answersTo(quen_3_1::OptionDescription const& option, std::string const& name) {
-    for (std::string const& own : option.names()) {
+    for (std::string_view const own : option.names()) {
         if (own == name) {
             return true;
         }
@@ -24,7 +24,7 @@ inline bool answersTo(quen_3_1::OptionDescription const& option, std::string con
     if (option.type() != tarvo2::vt_bool || name.compare(0, 3, "no-") != 0) {
         return false;
     }
-    for (std::string const& own : option.names()) {
+    for (std::string_view const own : option.names()) {
         if (name.compare(3, std::string::npos, own) == 0) {
             return true;
         }
