@@ -1,8 +1,6 @@
 #include "app/core_session.h"
 
-#include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <string_view>
 
 #include "app/collector_name.h"
@@ -18,15 +16,34 @@ char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
 int const kMaxSuggestions = 3;
 
-// Whether the library may read `argument` as naming the option `name`: after one or two
-// hyphens, up to an '=', a beginning of the name (an empty one included, to be safe).
-bool mayName(std::string_view argument, std::string_view name) {
-    if (argument.size() < 2 || argument[0] != '-') {
-        return false;
+// The layer's own options, each a bit of CoreSession::Builtins. The short -h comes with
+// --help; it is only a bit of what an App has.
+constexpr unsigned kHelp = 1U;
+constexpr unsigned kVersion = 2U;
+constexpr unsigned kCompletion = 4U;
+constexpr unsigned kCollector = 8U;
+constexpr unsigned kShortHelp = 16U;
+
+// Whether the library may read the typed name (what follows the hyphens, up to an '=' or
+// the end) as `name`: as many '-'-separated parts, each typed part a beginning of the
+// name's part (an empty one included), as abbreviations are matched.
+bool mayName(char const* typed, std::string_view name) {
+    std::size_t at = 0;
+    for (;; ++typed, ++at) {
+        for (; *typed != '\0' && *typed != '=' && *typed != '-'; ++typed, ++at) {
+            if (at >= name.size() || name[at] != *typed) {
+                return false;
+            }
+        }
+        while (at < name.size() && name[at] != '-') {
+            ++at;
+        }
+        bool const typedEnds = *typed != '-';
+        bool const nameEnds = at == name.size();
+        if (typedEnds || nameEnds) {
+            return typedEnds && nameEnds;
+        }
     }
-    std::string_view typed = argument.substr(argument.size() > 2 && argument[1] == '-' ? 2 : 1);
-    typed = typed.substr(0, typed.find('='));
-    return name.compare(0, typed.size(), typed) == 0;
 }
 
 // A result released when it goes out of scope.
@@ -44,11 +61,27 @@ struct ResultHandle {
 
 }  // namespace
 
-// Most command lines never name --completion: its shells, which cost the library a value
-// each to keep, are handed to it only for arguments that may name it.
+// Most command lines name none of the layer's own options and have no plain argument: each
+// of those options, which cost the library a declaration, is handed to it only when an
+// argument may name it, so that every message and abbreviation stays the library's own.
 CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
-    : m_app(app), m_top(top), m_showDefaults(showDefaults), m_layout(app, m_builtins), m_gate(app, m_layout) {
-    build(showDefaults);
+    : m_app(app), m_showDefaults(showDefaults), m_layout(app, m_builtins), m_gate(app, m_layout) {
+    m_available = kCollector;
+    if (!app.isTaken("help")) {
+        m_builtins.help = "help";
+        m_available |= kHelp | (app.isTaken("h") ? 0U : kShortHelp);
+    }
+    if (!app.m_version.empty() && !app.isTaken("version")) {
+        m_builtins.version = "version";
+        m_available |= kVersion;
+    }
+    if (top && !app.isTaken("completion")) {
+        m_builtins.completion = "completion";
+        m_available |= kCompletion;
+    }
+    if (showDefaults) {
+        build(m_available);
+    }
 }
 
 CoreSession::~CoreSession() {
@@ -57,12 +90,12 @@ CoreSession::~CoreSession() {
     }
 }
 
-void CoreSession::build(bool shells) {
+void CoreSession::build(Builtins builtins) {
     if (m_parser != nullptr) {
         m_parser->destroy();
         m_parser = nullptr;
     }
-    m_shells = shells;
+    m_built = builtins;
     AppState const& app = m_app;
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
@@ -82,8 +115,10 @@ void CoreSession::build(bool shells) {
             registerOption(option);
         }
     }
-    registerBuiltins(shells);
-    m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    registerBuiltins(builtins);
+    if ((builtins & kCollector) != 0) {
+        m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    }
     m_parser->addHandler(&m_gate);
 }
 
@@ -97,33 +132,47 @@ void CoreSession::registerOption(OptionState const& option) {
     }
 }
 
-void CoreSession::registerBuiltins(bool shells) {
-    AppState const& app = m_app;
-    if (!app.isTaken("help")) {
-        m_builtins.help = "help";
-        m_parser->option(app.isTaken("h") ? "help" : "help,h", text::kHelpDescription, tarvo2::vt_empty, "");
+void CoreSession::registerBuiltins(Builtins builtins) {
+    if ((builtins & kHelp) != 0) {
+        m_parser->option((m_available & kShortHelp) != 0 ? "help,h" : "help", text::kHelpDescription, tarvo2::vt_empty,
+                         "");
     }
-    if (!app.m_version.empty() && !app.isTaken("version")) {
-        m_builtins.version = "version";
+    if ((builtins & kVersion) != 0) {
         m_parser->option("version", text::kVersionDescription, tarvo2::vt_empty, "");
     }
-    if (m_top && !app.isTaken("completion")) {
-        m_builtins.completion = "completion";
+    if ((builtins & kCompletion) != 0) {
         IOption* option = m_parser->option("completion", text::kCompletionDescription, tarvo2::vt_str, "");
         option->tokenize(0);
-        for (std::size_t i = 0; shells && i < std::size(kShells); ++i) {
-            option->allowValue(tarvo2::variant_t(kShells[i]));
+        for (char const* shell : kShells) {
+            option->allowValue(tarvo2::variant_t(shell));
         }
     }
 }
 
-void CoreSession::fit(Arguments const& args) {
-    if (m_shells || m_builtins.completion.empty()) {
-        return;
+// A plain argument (an empty one included) is the collector's: the library refuses it
+// there when it begins with '-'. A lone '-' names no option.
+CoreSession::Builtins CoreSession::named(Arguments const& args) const {
+    Builtins found = 0;
+    for (char const* arg : args) {
+        if (arg[0] != '-') {
+            found |= kCollector;
+            continue;
+        }
+        if (arg[1] == '\0') {
+            continue;
+        }
+        char const* const typed = arg + (arg[1] == '-' && arg[2] != '\0' ? 2 : 1);
+        bool const help = mayName(typed, "help") || ((m_available & kShortHelp) != 0 && mayName(typed, "h"));
+        found |= (help ? kHelp : 0U) | (mayName(typed, "version") ? kVersion : 0U) |
+                 (mayName(typed, "completion") ? kCompletion : 0U) | (mayName(typed, kCollectorName) ? kCollector : 0U);
     }
-    std::string_view const completion = m_builtins.completion;
-    if (std::any_of(args.begin(), args.end(), [&](char const* arg) { return mayName(arg, completion); })) {
-        build(true);
+    return found & m_available;
+}
+
+void CoreSession::fit(Arguments const& args) {
+    Builtins const wanted = named(args);
+    if (m_parser == nullptr || (wanted & ~m_built) != 0) {
+        build(m_built | wanted);
     }
 }
 
@@ -163,7 +212,11 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
     return 0;
 }
 
+// Among every name the App answers to, the layer's own options included.
 std::vector<std::string> CoreSession::suggestions(std::string const& argument) {
+    if (m_built != m_available) {
+        build(m_available);
+    }
     char const* names[kMaxSuggestions] = {};
     int const count = m_parser == nullptr ? 0 : suggestNames(m_parser, argument.c_str(), names, kMaxSuggestions);
     return std::vector<std::string>(names, names + count);
