@@ -29,7 +29,7 @@ public:
     virtual void showDefault(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise (the name is
     // copied only into a reason). A number read is left in `number` (ReadNumber), for assign.
-    virtual std::string check(std::string_view option, std::string const& text, ReadNumber& number) const = 0;
+    virtual std::string check(std::string_view option, std::string_view text, ReadNumber& number) const = 0;
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
     virtual void assign(TakenValue const* first, TakenValue const* last) = 0;
     // A declaration mistake of the refinements, or empty.

@@ -77,14 +77,14 @@ public:
         }
     }
 
-    std::string check(std::string_view option, std::string const& text, ReadNumber& number) const override {
+    std::string check(std::string_view option, std::string_view text, ReadNumber& number) const override {
         if constexpr (std::is_same_v<Element, std::string>) {
-            // A text is its own value: nothing to convert, nothing to copy.
-            return refine(option, text, text);
+            // A text is its own value: nothing to convert, and copied only for the host's checks.
+            return m_checks.empty() ? std::string() : refine(option, text, std::string(text));
         } else {
             Element value{};
             if (!readWhole(text, value)) {
-                return text::notWhole(std::string(option), text, wholeKind(value));
+                return text::notWhole(std::string(option), std::string(text), wholeKind(value));
             }
             static_assert(sizeof value <= sizeof number, "a number read fits its bits");
             number = 0;
@@ -130,14 +130,15 @@ private:
     }
 
     // The range and the host's checks, for a value that is whole.
-    std::string refine(std::string_view option, std::string const& text, Element const& value) const {
+    std::string refine(std::string_view option, std::string_view text, Element const& value) const {
         if (m_range && (value < m_range->first || m_range->second < value)) {
-            return text::outOfRange(std::string(option), text, valueText(m_range->first), valueText(m_range->second));
+            return text::outOfRange(std::string(option), std::string(text), valueText(m_range->first),
+                                    valueText(m_range->second));
         }
         for (auto const& test : m_checks) {
             std::string reason = test ? test(value) : std::string();
             if (!reason.empty()) {
-                return text::failedCheck(std::string(option), text, reason);
+                return text::failedCheck(std::string(option), std::string(text), reason);
             }
         }
         return {};
