@@ -145,11 +145,12 @@ void AppState::refuse(std::string const& what) {
 std::string AppState::referenceMistake() const {
     bool positionals = false;
     for (auto const& option : m_options) {
-        std::string const own = option->binding().mistake(option->name());
+        std::string const own = option->binding().mistake(option->firstName());
         if (!own.empty()) {
             return text::badDeclaration(own);
         }
-        for (auto const* list : {&option->m_needs, &option->m_excludes}) {
+        OptionLinks const& links = std::as_const(*option).links();
+        for (auto const* list : {&links.needs, &links.excludes}) {
             for (std::string const& other : *list) {
                 if (find(other) == nullptr) {
                     return text::badDeclaration(text::unknownReference(other));

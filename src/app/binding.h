@@ -33,7 +33,7 @@ public:
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
     virtual void assign(TakenValue const* first, TakenValue const* last) = 0;
     // A declaration mistake of the refinements, or empty.
-    virtual std::string mistake(std::string const& option) const = 0;
+    virtual std::string mistake(std::string_view option) const = 0;
 };
 
 }  // namespace quen_3_1::app_detail

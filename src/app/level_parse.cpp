@@ -144,7 +144,10 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
 
 bool LevelParse::readEnvironment(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        std::string const variable = option->positional() ? std::string() : variableOf(*option);
+        if (option->positional() || (m_app.m_envPrefix.empty() && std::as_const(*option).links().env.empty())) {
+            continue;
+        }
+        std::string const variable = variableOf(*option);
         if (!variable.empty() && !readVariable(*option, variable, out)) {
             return false;
         }
@@ -174,8 +177,8 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
 }
 
 std::string LevelParse::variableOf(OptionState const& option) const {
-    if (!option.m_env.empty()) {
-        return option.m_env;
+    if (!option.links().env.empty()) {
+        return option.links().env;
     }
     if (m_app.m_envPrefix.empty() || option.m_hidden) {
         return {};
@@ -302,7 +305,8 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 
 bool LevelParse::checkRelations(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
+        OptionLinks const& links = std::as_const(*option).links();
+        bool const relates = !links.needs.empty() || !links.excludes.empty();
         if (!option->m_required && !relates) {
             continue;
         }
@@ -313,12 +317,12 @@ bool LevelParse::checkRelations(ResultData& out) {
         if (!present) {
             continue;
         }
-        for (std::string const& other : option->m_needs) {
+        for (std::string const& other : links.needs) {
             if (!given(other)) {
                 return fail(out, text::needs(option->name(), other));
             }
         }
-        for (std::string const& other : option->m_excludes) {
+        for (std::string const& other : links.excludes) {
             if (given(other)) {
                 return fail(out, text::excludes(option->name(), other));
             }

@@ -46,19 +46,19 @@ Option<T>& Option<T>::check(std::function<std::string(Element const&)> test) {
 
 template <class T>
 Option<T>& Option<T>::env(std::string variable) {
-    m_state->m_env = std::move(variable);
+    m_state->links().env = std::move(variable);
     return *this;
 }
 
 template <class T>
 Option<T>& Option<T>::needs(std::string other) {
-    m_state->m_needs.push_back(std::move(other));
+    m_state->links().needs.push_back(std::move(other));
     return *this;
 }
 
 template <class T>
 Option<T>& Option<T>::excludes(std::string other) {
-    m_state->m_excludes.push_back(std::move(other));
+    m_state->links().excludes.push_back(std::move(other));
     return *this;
 }
 

@@ -4,6 +4,7 @@
 #ifndef QUEN_3_1_SRC_APP_OPTION_STATE_H
 #define QUEN_3_1_SRC_APP_OPTION_STATE_H
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,13 @@
 #include "app/name_list.h"
 
 namespace quen_3_1::app_detail {
+
+// What few options are refined with: made when first set, so that the others stay small.
+struct OptionLinks {
+    std::string env;
+    std::vector<std::string> needs;
+    std::vector<std::string> excludes;
+};
 
 class OptionState {
 public:
@@ -29,25 +37,29 @@ public:
     std::string_view nameAt(std::size_t i) const { return m_names.at(m_namesText, i); }
     // The first name: the one the library reports and events carry (the whole
     // text when it could not be split).
-    std::string const& name() const { return m_name; }
+    std::string_view firstName() const { return m_names.empty() ? std::string_view(m_namesText) : nameAt(0); }
+    // The same as a string of its own, for messages and arguments built from it.
+    std::string name() const { return std::string(firstName()); }
     char const* help() const { return m_help; }
     bool positional() const { return m_positional; }
     virtual Binding& binding() = 0;
     virtual Binding const& binding() const = 0;
 
+    // The variable and relations, empty when never set.
+    OptionLinks const& links() const;
+    // The same, to be set.
+    OptionLinks& links();
+
     bool m_required = false;
     bool m_hidden = false;
     char m_separator = 0;
-    std::string m_env;
-    std::vector<std::string> m_needs;
-    std::vector<std::string> m_excludes;
 
 private:
+    bool m_positional = false;
+    char const* m_help = "";
     std::string m_namesText;
     NameList m_names;
-    std::string m_name;
-    char const* m_help = "";
-    bool m_positional = false;
+    std::unique_ptr<OptionLinks> m_links;
 };
 
 }  // namespace quen_3_1::app_detail

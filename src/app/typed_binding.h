@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -53,15 +54,18 @@ public:
 
     explicit TypedBinding(T& target) : m_target(target) {}
 
-    void allow(std::vector<Element> values) { m_allowed = std::move(values); }
-    void range(Element lowest, Element highest) { m_range = std::make_pair(lowest, highest); }
-    void check(std::function<std::string(Element const&)> test) { m_checks.push_back(std::move(test)); }
+    void allow(std::vector<Element> values) { refined().allowed = std::move(values); }
+    void range(Element lowest, Element highest) { refined().range = std::make_pair(lowest, highest); }
+    void check(std::function<std::string(Element const&)> test) { refined().checks.push_back(std::move(test)); }
 
     tarvo2::kel_variant_type_t kind() const override { return kindOf<Element>(); }
     bool takesMany() const override { return isVector; }
 
     void describe(IOption& option) const override {
-        for (Element const& value : m_allowed) {
+        if (m_refined == nullptr) {
+            return;
+        }
+        for (Element const& value : m_refined->allowed) {
             option.allowValue(variantOf(value));
         }
     }
@@ -80,7 +84,7 @@ public:
     std::string check(std::string_view option, std::string_view text, ReadNumber& number) const override {
         if constexpr (std::is_same_v<Element, std::string>) {
             // A text is its own value: nothing to convert, and copied only for the host's checks.
-            return m_checks.empty() ? std::string() : refine(option, text, std::string(text));
+            return m_refined == nullptr ? std::string() : refine(option, text, std::string(text));
         } else {
             Element value{};
             if (!readWhole(text, value)) {
@@ -89,7 +93,7 @@ public:
             static_assert(sizeof value <= sizeof number, "a number read fits its bits");
             number = 0;
             std::memcpy(&number, &value, sizeof value);
-            return refine(option, text, value);
+            return m_refined == nullptr ? std::string() : refine(option, text, value);
         }
     }
 
@@ -107,9 +111,9 @@ public:
         }
     }
 
-    std::string mistake(std::string const& option) const override {
-        if (m_range && m_range->second < m_range->first) {
-            return text::emptyRange(option);
+    std::string mistake(std::string_view option) const override {
+        if (m_refined != nullptr && m_refined->range && m_refined->range->second < m_refined->range->first) {
+            return text::emptyRange(std::string(option));
         }
         return {};
     }
@@ -129,13 +133,28 @@ private:
         }
     }
 
+    // Allowed values, range and the host's checks: made when the host sets one.
+    struct Refinements {
+        std::vector<Element> allowed;
+        std::optional<std::pair<Element, Element>> range;
+        std::vector<std::function<std::string(Element const&)>> checks;
+    };
+
+    Refinements& refined() {
+        if (m_refined == nullptr) {
+            m_refined = std::make_unique<Refinements>();
+        }
+        return *m_refined;
+    }
+
     // The range and the host's checks, for a value that is whole.
     std::string refine(std::string_view option, std::string_view text, Element const& value) const {
-        if (m_range && (value < m_range->first || m_range->second < value)) {
-            return text::outOfRange(std::string(option), std::string(text), valueText(m_range->first),
-                                    valueText(m_range->second));
+        auto const& range = m_refined->range;
+        if (range && (value < range->first || range->second < value)) {
+            return text::outOfRange(std::string(option), std::string(text), valueText(range->first),
+                                    valueText(range->second));
         }
-        for (auto const& test : m_checks) {
+        for (auto const& test : m_refined->checks) {
             std::string reason = test ? test(value) : std::string();
             if (!reason.empty()) {
                 return text::failedCheck(std::string(option), std::string(text), reason);
@@ -145,9 +164,7 @@ private:
     }
 
     T& m_target;
-    std::vector<Element> m_allowed;
-    std::optional<std::pair<Element, Element>> m_range;
-    std::vector<std::function<std::string(Element const&)>> m_checks;
+    std::unique_ptr<Refinements> m_refined;
 };
 
 }  // namespace quen_3_1::app_detail
