@@ -145,9 +145,13 @@ void AppState::refuse(std::string const& what) {
 std::string AppState::referenceMistake() const {
     bool positionals = false;
     for (auto const& option : m_options) {
-        std::string const own = option->binding().mistake(option->firstName());
+        std::string const own = option->m_ranged ? option->binding().mistake(option->firstName()) : std::string();
         if (!own.empty()) {
             return text::badDeclaration(own);
+        }
+        positionals = positionals || option->positional();
+        if (!option->linked()) {
+            continue;
         }
         OptionLinks const& links = std::as_const(*option).links();
         for (auto const* list : {&links.needs, &links.excludes}) {
@@ -157,7 +161,6 @@ std::string AppState::referenceMistake() const {
                 }
             }
         }
-        positionals = positionals || option->positional();
     }
     for (ExclusiveGroup const& group : m_exclusive) {
         for (std::string const& other : group.names) {

@@ -28,6 +28,11 @@ constexpr unsigned kShortHelp = 16U;
 // the end) as `name`: as many '-'-separated parts, each typed part a beginning of the
 // name's part (an empty one included), as abbreviations are matched.
 bool mayName(char const* typed, std::string_view name) {
+    // Most typed names differ from a name at their first character.
+    char const first = *typed;
+    if (first != name.front() && first != '\0' && first != '=' && first != '-') {
+        return false;
+    }
     std::size_t at = 0;
     for (;; ++typed, ++at) {
         for (; *typed != '\0' && *typed != '=' && *typed != '-'; ++typed, ++at) {

@@ -144,7 +144,7 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
 
 bool LevelParse::readEnvironment(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        if (option->positional() || (m_app.m_envPrefix.empty() && std::as_const(*option).links().env.empty())) {
+        if (option->positional() || (m_app.m_envPrefix.empty() && !option->linked())) {
             continue;
         }
         std::string const variable = variableOf(*option);
@@ -305,11 +305,10 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 
 bool LevelParse::checkRelations(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        OptionLinks const& links = std::as_const(*option).links();
-        bool const relates = !links.needs.empty() || !links.excludes.empty();
-        if (!option->m_required && !relates) {
+        if (!option->m_required && !option->linked()) {
             continue;
         }
+        OptionLinks const& links = std::as_const(*option).links();
         bool const present = given(option->name());
         if (option->m_required && !present) {
             return fail(out, text::required(option->name()));

@@ -35,6 +35,7 @@ Option<T>& Option<T>::allow(std::vector<Element> values) {
 template <class T>
 Option<T>& Option<T>::setRange(Element lowest, Element highest) {
     typed<T>(m_state).range(lowest, highest);
+    m_state->m_ranged = true;
     return *this;
 }
 

@@ -11,9 +11,9 @@ void OptionState::declare(std::string namesText, NameList names, char const* hel
     m_positional = positional;
 }
 
-OptionLinks const& OptionState::links() const {
+OptionLinks const& OptionState::unlinked() {
     static OptionLinks const none;
-    return m_links == nullptr ? none : *m_links;
+    return none;
 }
 
 OptionLinks& OptionState::links() {

@@ -45,16 +45,22 @@ public:
     virtual Binding& binding() = 0;
     virtual Binding const& binding() const = 0;
 
+    // Whether a variable or a relation was ever set.
+    bool linked() const { return m_links != nullptr; }
     // The variable and relations, empty when never set.
-    OptionLinks const& links() const;
+    OptionLinks const& links() const { return m_links != nullptr ? *m_links : unlinked(); }
     // The same, to be set.
     OptionLinks& links();
 
     bool m_required = false;
     bool m_hidden = false;
     char m_separator = 0;
+    // A range was set, which may be empty: a declaration mistake.
+    bool m_ranged = false;
 
 private:
+    static OptionLinks const& unlinked();
+
     bool m_positional = false;
     char const* m_help = "";
     std::string m_namesText;
