@@ -24,15 +24,23 @@ constexpr unsigned kCompletion = 4U;
 constexpr unsigned kCollector = 8U;
 constexpr unsigned kShortHelp = 16U;
 
+// The names of the layer's own options; an argument that may name one needs the bit of the
+// option, if the App has all of `has`.
+struct BuiltinName {
+    std::string_view name;
+    unsigned has;
+    unsigned bit;
+};
+constexpr BuiltinName kBuiltinNames[] = {{"help", kHelp, kHelp},
+                                         {"h", kHelp | kShortHelp, kHelp},
+                                         {"version", kVersion, kVersion},
+                                         {"completion", kCompletion, kCompletion},
+                                         {kCollectorName, kCollector, kCollector}};
+
 // Whether the library may read the typed name (what follows the hyphens, up to an '=' or
 // the end) as `name`: as many '-'-separated parts, each typed part a beginning of the
 // name's part (an empty one included), as abbreviations are matched.
 bool mayName(char const* typed, std::string_view name) {
-    // Most typed names differ from a name at their first character.
-    char const first = *typed;
-    if (first != name.front() && first != '\0' && first != '=' && first != '-') {
-        return false;
-    }
     std::size_t at = 0;
     for (;; ++typed, ++at) {
         for (; *typed != '\0' && *typed != '=' && *typed != '-'; ++typed, ++at) {
@@ -167,9 +175,14 @@ CoreSession::Builtins CoreSession::named(Arguments const& args) const {
             continue;
         }
         char const* const typed = arg + (arg[1] == '-' && arg[2] != '\0' ? 2 : 1);
-        bool const help = mayName(typed, "help") || ((m_available & kShortHelp) != 0 && mayName(typed, "h"));
-        found |= (help ? kHelp : 0U) | (mayName(typed, "version") ? kVersion : 0U) |
-                 (mayName(typed, "completion") ? kCompletion : 0U) | (mayName(typed, kCollectorName) ? kCollector : 0U);
+        // Most typed names differ from every one of these at their first character.
+        bool const emptyFirstPart = *typed == '\0' || *typed == '=' || *typed == '-';
+        for (BuiltinName const& builtin : kBuiltinNames) {
+            if ((emptyFirstPart || *typed == builtin.name.front()) && (m_available & builtin.has) == builtin.has &&
+                mayName(typed, builtin.name)) {
+                found |= builtin.bit;
+            }
+        }
     }
     return found & m_available;
 }
