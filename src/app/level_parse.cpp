@@ -208,9 +208,75 @@ bool LevelParse::given(std::string const& name) {
     return winner(m_session.layout().option(index)) != nullptr;
 }
 
-// The winners' values move into the result, each option's together in declaration order:
-// counted first, then placed. Nothing reads them here afterwards.
+// The winners' values move into the result, each option's together in declaration order,
+// and every option's count with them. Nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
+    SlotLayout const& layout = m_session.layout();
+    std::size_t const options = m_app.m_options.size();
+    commits.reserve(commits.size() + options);
+    bool const lineOnly = lineOnlyInOrder();
+    if (lineOnly) {
+        takeLine(out, commits);
+    } else {
+        takeWinners(out, commits);
+    }
+    out.m_counts.resize(out.m_counts.size() + options + m_app.m_files.size());
+    std::size_t* const counts = out.m_counts.data() + out.m_counts.size() - options - m_app.m_files.size();
+    for (std::size_t i = 0; i < options; ++i) {
+        if (m_app.m_options[i]->positional()) {
+            counts[i] = m_positionalCounts[i];
+        } else if (lineOnly) {
+            counts[i] = m_line.counts[layout.option(i)];
+        } else {
+            SourceValues const* const source = winner(layout.option(i));
+            counts[i] = source == nullptr ? 0 : source->counts[layout.option(i)];
+        }
+    }
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        counts[options + j] = m_line.counts[layout.file(j)];
+    }
+    out.m_levels[m_level].counted = true;
+}
+
+// No other source was parsed, so its counts were never made. The library reports no value
+// of a positional, which it does not know.
+bool LevelParse::lineOnlyInOrder() const {
+    if (!m_environment.counts.empty() || !m_files.counts.empty()) {
+        return false;
+    }
+    std::size_t const options = m_session.layout().options();
+    std::size_t last = 0;
+    for (SourceValue const& value : m_line.values) {
+        if (value.slot < options) {
+            if (value.slot < last) {
+                return false;
+            }
+            last = value.slot;
+        }
+    }
+    return true;
+}
+
+void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
+    std::size_t const options = m_session.layout().options();
+    out.m_values.reserve(out.m_values.size() + m_line.values.size());
+    std::size_t current = options;
+    for (SourceValue& value : m_line.values) {
+        if (value.slot >= options) {
+            continue;
+        }
+        if (value.slot != current) {
+            current = value.slot;
+            commits.push_back(Commit{&m_app.m_options[current]->binding(), out.m_values.size(), 0});
+        }
+        ++commits.back().count;
+        out.m_values.push_back(
+            TakenValue{std::move(value.text), value.sequence, m_line.source, m_level, value.slot, value.number});
+    }
+}
+
+// Counted first, then placed.
+void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     SlotLayout const& layout = m_session.layout();
     std::size_t const options = m_app.m_options.size();
     auto const taken = [&](SourceValues* source, std::size_t slot) {
@@ -225,13 +291,8 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
         }
     }
     std::size_t const base = out.m_values.size();
-    out.m_counts.reserve(out.m_counts.size() + options + m_app.m_files.size());
-    commits.reserve(commits.size() + options);
     for (std::size_t i = 0; i < options; ++i) {
         place[i + 1] += place[i];
-        SourceValues const* source = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
-        out.m_counts.push_back(m_app.m_options[i]->positional() ? m_positionalCounts[i]
-                                                                : (source == nullptr ? 0 : source->counts[i]));
         if (place[i + 1] != place[i]) {
             commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
         }
@@ -250,10 +311,6 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
             }
         }
     }
-    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
-        out.m_counts.push_back(m_line.counts[layout.file(j)]);
-    }
-    out.m_levels[m_level].counted = true;
 }
 
 bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) {

@@ -45,6 +45,11 @@ private:
     SourceValues* winner(std::size_t slot);
     bool given(std::string const& name);
     void takeNamed(ResultData& out, std::vector<Commit>& commits);
+    // Whether only the command line gave options values, each option's given together and in
+    // declaration order: then they are taken as they stand.
+    bool lineOnlyInOrder() const;
+    void takeLine(ResultData& out, std::vector<Commit>& commits);
+    void takeWinners(ResultData& out, std::vector<Commit>& commits);
     bool fillPositionals(ResultData& out, std::vector<Commit>& commits);
     bool checkRelations(ResultData& out);
     bool descend(ResultData& out, std::vector<Commit>& commits);
