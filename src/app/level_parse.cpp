@@ -247,11 +247,11 @@ bool LevelParse::lineOnlyInOrder() const {
     std::size_t const options = m_session.layout().options();
     std::size_t last = 0;
     for (SourceValue const& value : m_line.values) {
-        if (value.slot < options) {
-            if (value.slot < last) {
+        if (value.option < options) {
+            if (value.option < last) {
                 return false;
             }
-            last = value.slot;
+            last = value.option;
         }
     }
     return true;
@@ -259,19 +259,35 @@ bool LevelParse::lineOnlyInOrder() const {
 
 void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
     std::size_t const options = m_session.layout().options();
+    bool const whole =
+        out.m_values.empty() && std::all_of(m_line.values.begin(), m_line.values.end(),
+                                            [&](SourceValue const& value) { return value.option < options; });
+    if (whole) {
+        // Every value is taken, in this order: the list itself moves into the result.
+        out.m_values.swap(m_line.values);
+        for (std::size_t i = 0; i < out.m_values.size(); ++i) {
+            TakenValue& value = out.m_values[i];
+            value.level = m_level;
+            if (i == 0 || value.option != out.m_values[i - 1].option) {
+                commits.push_back(Commit{&m_app.m_options[value.option]->binding(), i, 0});
+            }
+            ++commits.back().count;
+        }
+        return;
+    }
     out.m_values.reserve(out.m_values.size() + m_line.values.size());
     std::size_t current = options;
     for (SourceValue& value : m_line.values) {
-        if (value.slot >= options) {
+        if (value.option >= options) {
             continue;
         }
-        if (value.slot != current) {
-            current = value.slot;
+        if (value.option != current) {
+            current = value.option;
             commits.push_back(Commit{&m_app.m_options[current]->binding(), out.m_values.size(), 0});
         }
         ++commits.back().count;
         out.m_values.push_back(
-            TakenValue{std::move(value.text), value.sequence, m_line.source, m_level, value.slot, value.number});
+            TakenValue{std::move(value.text), value.sequence, m_line.source, m_level, value.option, value.number});
     }
 }
 
@@ -285,8 +301,8 @@ void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     std::vector<std::size_t> place(options + 1);
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
         for (SourceValue const& value : source->values) {
-            if (taken(source, value.slot)) {
-                ++place[value.slot + 1];
+            if (taken(source, value.option)) {
+                ++place[value.option + 1];
             }
         }
     }
@@ -300,13 +316,13 @@ void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     out.m_values.resize(base + place[options], TakenValue{});
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
         for (SourceValue& value : source->values) {
-            if (taken(source, value.slot)) {
-                TakenValue& kept = out.m_values[base + place[value.slot]++];
+            if (taken(source, value.option)) {
+                TakenValue& kept = out.m_values[base + place[value.option]++];
                 kept.text = std::move(value.text);
                 kept.sequence = value.sequence;
                 kept.source = source->source;
                 kept.level = m_level;
-                kept.option = value.slot;
+                kept.option = value.option;
                 kept.number = value.number;
             }
         }

@@ -87,7 +87,8 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
 }
 
 void ValueGate::record(std::size_t slot, std::string_view text, std::int32_t sequence, ReadNumber number) {
-    m_into->values.push_back(SourceValue{std::string(text), sequence, static_cast<std::uint32_t>(slot), number});
+    m_into->values.push_back(
+        SourceValue{std::string(text), sequence, m_into->source, 0, static_cast<std::uint32_t>(slot), number});
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {
