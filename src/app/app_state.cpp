@@ -21,7 +21,7 @@ AppState::AppState(std::string program, std::string about)
 
 void AppState::add(std::string names, std::string_view help, bool positional, OptionHandle state) {
     NameList const split = NameList::split(names);
-    bool const flag = !positional && state->binding().kind() == tarvo2::vt_bool;
+    bool const flag = !positional && state->kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
     if (!ok) {
         refuse(text::badName(names));
@@ -36,7 +36,7 @@ void AppState::add(std::string names, std::string_view help, bool positional, Op
         m_refused.push_back(std::move(state));
         return;
     }
-    m_vectorPositional = m_vectorPositional || (positional && state->binding().takesMany());
+    m_vectorPositional = m_vectorPositional || (positional && state->takesMany());
     if (m_options.empty()) {
         m_options.reserve(kFirstOptions);
     }

@@ -18,10 +18,6 @@ public:
     Binding& operator=(Binding const&) = delete;
     virtual ~Binding() = default;
 
-    // The library's kind for one value.
-    virtual tarvo2::kel_variant_type_t kind() const = 0;
-    // A std::vector: every value is kept, and a positional takes all the rest.
-    virtual bool takesMany() const = 0;
     // Hands the allowed values to the library's option.
     virtual void describe(IOption& option) const = 0;
     // Hands the variable's value to the library's option as its default, for the help text only:

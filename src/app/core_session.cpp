@@ -136,10 +136,12 @@ void CoreSession::build(Builtins builtins) {
 }
 
 void CoreSession::registerOption(OptionState const& option) {
-    IOption* declared = m_parser->option(option.namesText().c_str(), option.help(), option.binding().kind(),
-                                         option.m_hidden ? kHiddenGroup : "");
+    IOption* declared =
+        m_parser->option(option.namesText().c_str(), option.help(), option.kind(), option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
-    option.binding().describe(*declared);
+    if (option.m_allows) {
+        option.binding().describe(*declared);
+    }
     if (m_showDefaults) {
         option.binding().showDefault(*declared);
     }

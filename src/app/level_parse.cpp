@@ -162,7 +162,7 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
     }
     std::string const value = found;
     std::string argument = "--" + option.name() + "=" + value;
-    if (option.binding().kind() == tarvo2::vt_bool) {
+    if (option.kind() == tarvo2::vt_bool) {
         if (!isOneOf(value, kTrueWords) && !isOneOf(value, kFalseWords)) {
             return fail(out, text::inVariable(variable, text::notBoolean(value)));
         }
@@ -350,7 +350,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
             continue;
         }
         std::size_t const take =
-            option.binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
+            option.takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
         std::size_t const first = out.m_values.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
             Entry& entry = plain[next];

@@ -29,6 +29,7 @@ Option<T>& Option<T>::required() {
 template <class T>
 Option<T>& Option<T>::allow(std::vector<Element> values) {
     typed<T>(m_state).allow(std::move(values));
+    m_state->m_allows = true;
     return *this;
 }
 

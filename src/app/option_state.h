@@ -23,7 +23,6 @@ struct OptionLinks {
 
 class OptionState {
 public:
-    OptionState() = default;
     OptionState(OptionState const&) = delete;
     OptionState& operator=(OptionState const&) = delete;
     virtual ~OptionState() = default;
@@ -42,8 +41,11 @@ public:
     std::string name() const { return std::string(firstName()); }
     char const* help() const { return m_help; }
     bool positional() const { return m_positional; }
-    virtual Binding& binding() = 0;
-    virtual Binding const& binding() const = 0;
+    Binding& binding() { return *m_binding; }
+    Binding const& binding() const { return *m_binding; }
+    // The library's kind of one value, and whether every value is kept (a std::vector).
+    tarvo2::kel_variant_type_t kind() const { return m_kind; }
+    bool takesMany() const { return m_many; }
 
     // Whether a variable or a relation was ever set.
     bool linked() const { return m_links != nullptr; }
@@ -57,10 +59,20 @@ public:
     char m_separator = 0;
     // A range was set, which may be empty: a declaration mistake.
     bool m_ranged = false;
+    // Allowed values were set, which the library is told.
+    bool m_allows = false;
+
+protected:
+    OptionState(tarvo2::kel_variant_type_t kind, bool many) : m_kind(kind), m_many(many) {}
+    // Once, by the derived declaration that holds the binding, when it has made it.
+    void bind(Binding& binding) { m_binding = &binding; }
 
 private:
     static OptionLinks const& unlinked();
 
+    Binding* m_binding = nullptr;
+    tarvo2::kel_variant_type_t m_kind;
+    bool m_many;
     bool m_positional = false;
     char const* m_help = "";
     std::string m_namesText;

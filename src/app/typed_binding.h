@@ -51,15 +51,14 @@ template <class T>
 class TypedBinding final : public Binding {
 public:
     using Element = typename ElementOf<T>::type;
+    static constexpr bool kMany = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
+    static constexpr tarvo2::kel_variant_type_t kKind = kindOf<Element>();
 
     explicit TypedBinding(T& target) : m_target(target) {}
 
     void allow(std::vector<Element> values) { refined().allowed = std::move(values); }
     void range(Element lowest, Element highest) { refined().range = std::make_pair(lowest, highest); }
     void check(std::function<std::string(Element const&)> test) { refined().checks.push_back(std::move(test)); }
-
-    tarvo2::kel_variant_type_t kind() const override { return kindOf<Element>(); }
-    bool takesMany() const override { return isVector; }
 
     void describe(IOption& option) const override {
         if (m_refined == nullptr) {
@@ -76,7 +75,7 @@ public:
             if (!m_target.empty()) {
                 option.defaultValue(variantOf(m_target));
             }
-        } else if constexpr (!isVector && !isOptional) {
+        } else if constexpr (!kMany && !isOptional) {
             option.defaultValue(variantOf(m_target));
         }
     }
@@ -101,7 +100,7 @@ public:
         if (first == last) {
             return;
         }
-        if constexpr (isVector) {
+        if constexpr (kMany) {
             m_target.clear();
             for (; first != last; ++first) {
                 m_target.push_back(valueOf(*first));
@@ -119,8 +118,7 @@ public:
     }
 
 private:
-    static constexpr bool isVector = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
-    static constexpr bool isOptional = !std::is_same_v<T, Element> && !isVector;
+    static constexpr bool isOptional = !std::is_same_v<T, Element> && !kMany;
 
     // The value of a checked text: a text itself (copied once, into the variable), the number check read.
     static decltype(auto) valueOf(TakenValue const& taken) {
