@@ -24,8 +24,8 @@ constexpr unsigned kCompletion = 4U;
 constexpr unsigned kCollector = 8U;
 constexpr unsigned kShortHelp = 16U;
 
-// The names of the layer's own options; an argument that may name one needs the bit of the
-// option, if the App has all of `has`.
+// The names of the layer's own options (each beginning with a lower-case letter); an argument
+// that may name one needs the bit of the option, if the App has all of `has`.
 struct BuiltinName {
     std::string_view name;
     unsigned has;
@@ -91,6 +91,11 @@ CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
     if (top && !app.isTaken("completion")) {
         m_builtins.completion = "completion";
         m_available |= kCompletion;
+    }
+    for (BuiltinName const& builtin : kBuiltinNames) {
+        if ((m_available & builtin.has) == builtin.has) {
+            m_initials |= 1U << static_cast<unsigned>(builtin.name.front() - 'a');
+        }
     }
     if (showDefaults) {
         build(m_available);
@@ -178,6 +183,10 @@ CoreSession::Builtins CoreSession::named(Arguments const& args) const {
         }
         char const* const typed = arg + (arg[1] == '-' && arg[2] != '\0' ? 2 : 1);
         // Most typed names differ from every one of these at their first character.
+        auto const letter = static_cast<unsigned>(static_cast<unsigned char>(*typed)) - 'a';
+        if (letter < 26U && ((m_initials >> letter) & 1U) == 0) {
+            continue;
+        }
         bool const emptyFirstPart = *typed == '\0' || *typed == '=' || *typed == '-';
         for (BuiltinName const& builtin : kBuiltinNames) {
             if ((emptyFirstPart || *typed == builtin.name.front()) && (m_available & builtin.has) == builtin.has &&

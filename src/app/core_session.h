@@ -4,6 +4,7 @@
 #ifndef QUEN_3_1_SRC_APP_CORE_SESSION_H
 #define QUEN_3_1_SRC_APP_CORE_SESSION_H
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,8 @@ private:
     // The layer's options this App has, and those the current parser has.
     Builtins m_available = 0;
     Builtins m_built = 0;
+    // Bit c - 'a' set when a name of the layer's options this App has begins with letter c.
+    std::uint32_t m_initials = 0;
     IParser* m_parser = nullptr;
     BuiltinNames m_builtins;
     SlotLayout m_layout;

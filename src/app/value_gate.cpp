@@ -87,8 +87,14 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
 }
 
 void ValueGate::record(std::size_t slot, std::string_view text, std::int32_t sequence, ReadNumber number) {
-    m_into->values.push_back(
-        SourceValue{std::string(text), sequence, m_into->source, 0, static_cast<std::uint32_t>(slot), number});
+    // Made in place: no value is built to be moved.
+    SourceValue& value = m_into->values.emplace_back();
+    value.text.assign(text.data(), text.size());
+    value.sequence = sequence;
+    value.source = m_into->source;
+    value.level = 0;
+    value.option = static_cast<std::uint32_t>(slot);
+    value.number = number;
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {
