@@ -92,7 +92,6 @@ void ValueGate::record(std::size_t slot, std::string_view text, std::int32_t seq
     value.text.assign(text.data(), text.size());
     value.sequence = sequence;
     value.source = m_into->source;
-    value.level = 0;
     value.option = static_cast<std::uint32_t>(slot);
     value.number = number;
 }
