@@ -37,6 +37,7 @@ void AppState::add(std::string names, std::string_view help, bool positional, Op
         return;
     }
     m_vectorPositional = m_vectorPositional || (positional && state->takesMany());
+    m_positionals = m_positionals || positional;
     if (m_options.empty()) {
         m_options.reserve(kFirstOptions);
     }

@@ -1,5 +1,6 @@
 #include "app/core_session.h"
 
+#include <array>
 #include <cstring>
 #include <string_view>
 
@@ -15,6 +16,8 @@ char const kHiddenGroup[] = "quen_hidden";
 char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
 int const kMaxSuggestions = 3;
+// Arguments of a command line that most programs are given, and more.
+constexpr std::size_t kShortLine = 64;
 
 // The layer's own options, each a bit of CoreSession::Builtins. The short -h comes with
 // --help; it is only a bit of what an App has.
@@ -212,12 +215,14 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
         error = "the library could not make a parser";
         return 3;
     }
-    std::vector<char*> argv;
-    argv.reserve(args.size() + 1);
-    argv.push_back(m_programName);
-    for (char const* arg : args) {
+    // A short command line's argument vector is made on the stack.
+    std::array<char*, kShortLine> shortLine{};
+    std::vector<char*> longLine(args.size() < kShortLine ? 0 : args.size() + 1);
+    char** const argv = longLine.empty() ? shortLine.data() : longLine.data();
+    argv[0] = m_programName;
+    for (std::size_t i = 0; i < args.size(); ++i) {
         // The library's signature predates const: it copies the arguments and never writes to them.
-        argv.push_back(const_cast<char*>(arg));
+        argv[i + 1] = const_cast<char*>(args[i]);
     }
     // The library would switch its trace on for this first argument; the layer never prints.
     std::string traceless;
@@ -228,7 +233,7 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
     ResultHandle handle;
     m_parser->createResult(&handle.result);
     m_gate.begin(source, into, args.size());
-    int const code = m_parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), handle.result);
+    int const code = m_parser->parseArgsVector(static_cast<int>(args.size() + 1), argv, handle.result);
     if (code != 0) {
         error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();
         return code;

@@ -51,7 +51,7 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
       m_root(root),
       m_session(app, &app == &root),
       m_line{Source::CommandLine, {}, std::vector<std::size_t>(m_session.layout().size())},
-      m_positionalCounts(app.m_options.size()) {}
+      m_positionalCounts(app.hasPositionals() ? app.m_options.size() : 0) {}
 
 bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;

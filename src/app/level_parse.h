@@ -63,7 +63,7 @@ private:
     std::vector<std::string> m_rest;
     // The last number of the command line's values, before what follows "--".
     std::int32_t m_lineEnd = 0;
-    // By option index; only positionals' are set.
+    // By option index; only positionals' are set (none kept for an App without positionals).
     std::vector<std::size_t> m_positionalCounts;
     // This level's index in the result's levels.
     std::uint32_t m_level = 0;
