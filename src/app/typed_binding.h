@@ -64,8 +64,9 @@ public:
         if (m_refined == nullptr) {
             return;
         }
-        for (Element const& value : m_refined->allowed) {
-            option.allowValue(variantOf(value));
+        // A std::vector<bool> hands out proxies: each is read as the element it stands for.
+        for (auto const& value : m_refined->allowed) {
+            option.allowValue(variantOf<Element>(value));
         }
     }
 
