@@ -21,7 +21,7 @@ AppState::AppState(std::string program, std::string about)
 
 void AppState::add(std::string names, std::string_view help, bool positional, OptionHandle state) {
     NameList const split = NameList::split(names);
-    bool const flag = !positional && state->binding().kind() == tarvo2::vt_bool;
+    bool const flag = !positional && state->kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
     if (!ok) {
         refuse(text::badName(names));
@@ -36,7 +36,8 @@ void AppState::add(std::string names, std::string_view help, bool positional, Op
         m_refused.push_back(std::move(state));
         return;
     }
-    m_vectorPositional = m_vectorPositional || (positional && state->binding().takesMany());
+    m_vectorPositional = m_vectorPositional || (positional && state->takesMany());
+    m_positionals = m_positionals || positional;
     if (m_options.empty()) {
         m_options.reserve(kFirstOptions);
     }
@@ -145,18 +146,22 @@ void AppState::refuse(std::string const& what) {
 std::string AppState::referenceMistake() const {
     bool positionals = false;
     for (auto const& option : m_options) {
-        std::string const own = option->binding().mistake(option->name());
+        std::string const own = option->m_ranged ? option->binding().mistake(option->firstName()) : std::string();
         if (!own.empty()) {
             return text::badDeclaration(own);
         }
-        for (auto const* list : {&option->m_needs, &option->m_excludes}) {
+        positionals = positionals || option->positional();
+        if (!option->linked()) {
+            continue;
+        }
+        OptionLinks const& links = std::as_const(*option).links();
+        for (auto const* list : {&links.needs, &links.excludes}) {
             for (std::string const& other : *list) {
                 if (find(other) == nullptr) {
                     return text::badDeclaration(text::unknownReference(other));
                 }
             }
         }
-        positionals = positionals || option->positional();
     }
     for (ExclusiveGroup const& group : m_exclusive) {
         for (std::string const& other : group.names) {

@@ -62,6 +62,8 @@ public:
     std::shared_ptr<NameTable const> sharedNames() const { return m_names; }
     // The first declaration mistake of this App or of its commands, or empty.
     std::string mistake() const;
+    // Whether a positional was declared.
+    bool hasPositionals() const { return m_positionals; }
 
     // First: it outlives the declarations it holds.
     OptionArena m_arena;
@@ -91,6 +93,7 @@ private:
     // A flag's no- form of a name, built here to be looked up.
     std::string m_negated;
     bool m_vectorPositional = false;
+    bool m_positionals = false;
 };
 
 }  // namespace quen_3_1::app_detail

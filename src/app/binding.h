@@ -18,10 +18,6 @@ public:
     Binding& operator=(Binding const&) = delete;
     virtual ~Binding() = default;
 
-    // The library's kind for one value.
-    virtual tarvo2::kel_variant_type_t kind() const = 0;
-    // A std::vector: every value is kept, and a positional takes all the rest.
-    virtual bool takesMany() const = 0;
     // Hands the allowed values to the library's option.
     virtual void describe(IOption& option) const = 0;
     // Hands the variable's value to the library's option as its default, for the help text only:
@@ -29,11 +25,11 @@ public:
     virtual void showDefault(IOption& option) const = 0;
     // Empty when `text` is a value that `option` takes, the reason otherwise (the name is
     // copied only into a reason). A number read is left in `number` (ReadNumber), for assign.
-    virtual std::string check(std::string_view option, std::string const& text, ReadNumber& number) const = 0;
+    virtual std::string check(std::string_view option, std::string_view text, ReadNumber& number) const = 0;
     // Stores the checked values [first, last) in the variable (the last one unless it takes many).
     virtual void assign(TakenValue const* first, TakenValue const* last) = 0;
     // A declaration mistake of the refinements, or empty.
-    virtual std::string mistake(std::string const& option) const = 0;
+    virtual std::string mistake(std::string_view option) const = 0;
 };
 
 }  // namespace quen_3_1::app_detail

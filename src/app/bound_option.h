@@ -11,10 +11,11 @@ namespace quen_3_1::app_detail {
 template <class T>
 class BoundOption final : public OptionState {
 public:
-    explicit BoundOption(T& target) : m_typed(target), m_handle(this) {}
+    explicit BoundOption(T& target)
+        : OptionState(TypedBinding<T>::kKind, TypedBinding<T>::kMany), m_typed(target), m_handle(this) {
+        bind(m_typed);
+    }
 
-    Binding& binding() override { return m_typed; }
-    Binding const& binding() const override { return m_typed; }
     TypedBinding<T>& typed() { return m_typed; }
     Option<T>& handle() { return m_handle; }
 

@@ -45,7 +45,7 @@ std::vector<std::string> optionWords(AppState const& app, bool top) {
         for (std::size_t i = 0; i < option->nameCount(); ++i) {
             std::string_view const name = option->nameAt(i);
             words.push_back(typed(name));
-            if (option->binding().kind() == tarvo2::vt_bool && name.size() > 1) {
+            if (option->kind() == tarvo2::vt_bool && name.size() > 1) {
                 words.push_back("--no-" + std::string(name));
             }
         }

@@ -1,8 +1,7 @@
 #include "app/core_session.h"
 
-#include <algorithm>
+#include <array>
 #include <cstring>
-#include <iterator>
 #include <string_view>
 
 #include "app/collector_name.h"
@@ -17,16 +16,50 @@ char const kHiddenGroup[] = "quen_hidden";
 char const kTraceSwitch[] = "quenoption=quenlogenable=1";
 char const* const kShells[] = {"bash", "zsh", "fish"};
 int const kMaxSuggestions = 3;
+// Arguments of a command line that most programs are given, and more.
+constexpr std::size_t kShortLine = 64;
 
-// Whether the library may read `argument` as naming the option `name`: after one or two
-// hyphens, up to an '=', a beginning of the name (an empty one included, to be safe).
-bool mayName(std::string_view argument, std::string_view name) {
-    if (argument.size() < 2 || argument[0] != '-') {
-        return false;
+// The layer's own options, each a bit of CoreSession::Builtins. The short -h comes with
+// --help; it is only a bit of what an App has.
+constexpr unsigned kHelp = 1U;
+constexpr unsigned kVersion = 2U;
+constexpr unsigned kCompletion = 4U;
+constexpr unsigned kCollector = 8U;
+constexpr unsigned kShortHelp = 16U;
+
+// The names of the layer's own options (each beginning with a lower-case letter); an argument
+// that may name one needs the bit of the option, if the App has all of `has`.
+struct BuiltinName {
+    std::string_view name;
+    unsigned has;
+    unsigned bit;
+};
+constexpr BuiltinName kBuiltinNames[] = {{"help", kHelp, kHelp},
+                                         {"h", kHelp | kShortHelp, kHelp},
+                                         {"version", kVersion, kVersion},
+                                         {"completion", kCompletion, kCompletion},
+                                         {kCollectorName, kCollector, kCollector}};
+
+// Whether the library may read the typed name (what follows the hyphens, up to an '=' or
+// the end) as `name`: as many '-'-separated parts, each typed part a beginning of the
+// name's part (an empty one included), as abbreviations are matched.
+bool mayName(char const* typed, std::string_view name) {
+    std::size_t at = 0;
+    for (;; ++typed, ++at) {
+        for (; *typed != '\0' && *typed != '=' && *typed != '-'; ++typed, ++at) {
+            if (at >= name.size() || name[at] != *typed) {
+                return false;
+            }
+        }
+        while (at < name.size() && name[at] != '-') {
+            ++at;
+        }
+        bool const typedEnds = *typed != '-';
+        bool const nameEnds = at == name.size();
+        if (typedEnds || nameEnds) {
+            return typedEnds && nameEnds;
+        }
     }
-    std::string_view typed = argument.substr(argument.size() > 2 && argument[1] == '-' ? 2 : 1);
-    typed = typed.substr(0, typed.find('='));
-    return name.compare(0, typed.size(), typed) == 0;
 }
 
 // A result released when it goes out of scope.
@@ -44,11 +77,32 @@ struct ResultHandle {
 
 }  // namespace
 
-// Most command lines never name --completion: its shells, which cost the library a value
-// each to keep, are handed to it only for arguments that may name it.
+// Most command lines name none of the layer's own options and have no plain argument: each
+// of those options, which cost the library a declaration, is handed to it only when an
+// argument may name it, so that every message and abbreviation stays the library's own.
 CoreSession::CoreSession(AppState const& app, bool top, bool showDefaults)
-    : m_app(app), m_top(top), m_showDefaults(showDefaults), m_layout(app, m_builtins), m_gate(app, m_layout) {
-    build(showDefaults);
+    : m_app(app), m_showDefaults(showDefaults), m_layout(app, m_builtins), m_gate(app, m_layout) {
+    m_available = kCollector;
+    if (!app.isTaken("help")) {
+        m_builtins.help = "help";
+        m_available |= kHelp | (app.isTaken("h") ? 0U : kShortHelp);
+    }
+    if (!app.m_version.empty() && !app.isTaken("version")) {
+        m_builtins.version = "version";
+        m_available |= kVersion;
+    }
+    if (top && !app.isTaken("completion")) {
+        m_builtins.completion = "completion";
+        m_available |= kCompletion;
+    }
+    for (BuiltinName const& builtin : kBuiltinNames) {
+        if ((m_available & builtin.has) == builtin.has) {
+            m_initials |= 1U << static_cast<unsigned>(builtin.name.front() - 'a');
+        }
+    }
+    if (showDefaults) {
+        build(m_available);
+    }
 }
 
 CoreSession::~CoreSession() {
@@ -57,12 +111,12 @@ CoreSession::~CoreSession() {
     }
 }
 
-void CoreSession::build(bool shells) {
+void CoreSession::build(Builtins builtins) {
     if (m_parser != nullptr) {
         m_parser->destroy();
         m_parser = nullptr;
     }
-    m_shells = shells;
+    m_built = builtins;
     AppState const& app = m_app;
     int const flags = FlagUnknownIsError | FlagNoHyphenPositional | (app.m_commands.empty() ? 0 : FlagPositionalRun);
     if (createParser(&m_parser, flags) != 0) {
@@ -82,48 +136,75 @@ void CoreSession::build(bool shells) {
             registerOption(option);
         }
     }
-    registerBuiltins(shells);
-    m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    registerBuiltins(builtins);
+    if ((builtins & kCollector) != 0) {
+        m_parser->option(kCollectorName, "", tarvo2::vt_str, kHiddenGroup)->tokenize(0)->positional();
+    }
     m_parser->addHandler(&m_gate);
 }
 
 void CoreSession::registerOption(OptionState const& option) {
-    IOption* declared = m_parser->option(option.namesText().c_str(), option.help(), option.binding().kind(),
-                                         option.m_hidden ? kHiddenGroup : "");
+    IOption* declared =
+        m_parser->option(option.namesText().c_str(), option.help(), option.kind(), option.m_hidden ? kHiddenGroup : "");
     declared->tokenize(option.m_separator);
-    option.binding().describe(*declared);
+    if (option.m_allows) {
+        option.binding().describe(*declared);
+    }
     if (m_showDefaults) {
         option.binding().showDefault(*declared);
     }
 }
 
-void CoreSession::registerBuiltins(bool shells) {
-    AppState const& app = m_app;
-    if (!app.isTaken("help")) {
-        m_builtins.help = "help";
-        m_parser->option(app.isTaken("h") ? "help" : "help,h", text::kHelpDescription, tarvo2::vt_empty, "");
+void CoreSession::registerBuiltins(Builtins builtins) {
+    if ((builtins & kHelp) != 0) {
+        m_parser->option((m_available & kShortHelp) != 0 ? "help,h" : "help", text::kHelpDescription, tarvo2::vt_empty,
+                         "");
     }
-    if (!app.m_version.empty() && !app.isTaken("version")) {
-        m_builtins.version = "version";
+    if ((builtins & kVersion) != 0) {
         m_parser->option("version", text::kVersionDescription, tarvo2::vt_empty, "");
     }
-    if (m_top && !app.isTaken("completion")) {
-        m_builtins.completion = "completion";
+    if ((builtins & kCompletion) != 0) {
         IOption* option = m_parser->option("completion", text::kCompletionDescription, tarvo2::vt_str, "");
         option->tokenize(0);
-        for (std::size_t i = 0; shells && i < std::size(kShells); ++i) {
-            option->allowValue(tarvo2::variant_t(kShells[i]));
+        for (char const* shell : kShells) {
+            option->allowValue(tarvo2::variant_t(shell));
         }
     }
 }
 
-void CoreSession::fit(Arguments const& args) {
-    if (m_shells || m_builtins.completion.empty()) {
-        return;
+// A plain argument (an empty one included) is the collector's: the library refuses it
+// there when it begins with '-'. A lone '-' names no option.
+CoreSession::Builtins CoreSession::named(Arguments const& args) const {
+    Builtins found = 0;
+    for (char const* arg : args) {
+        if (arg[0] != '-') {
+            found |= kCollector;
+            continue;
+        }
+        if (arg[1] == '\0') {
+            continue;
+        }
+        char const* const typed = arg + (arg[1] == '-' && arg[2] != '\0' ? 2 : 1);
+        // Most typed names differ from every one of these at their first character.
+        auto const letter = static_cast<unsigned>(static_cast<unsigned char>(*typed)) - 'a';
+        if (letter < 26U && ((m_initials >> letter) & 1U) == 0) {
+            continue;
+        }
+        bool const emptyFirstPart = *typed == '\0' || *typed == '=' || *typed == '-';
+        for (BuiltinName const& builtin : kBuiltinNames) {
+            if ((emptyFirstPart || *typed == builtin.name.front()) && (m_available & builtin.has) == builtin.has &&
+                mayName(typed, builtin.name)) {
+                found |= builtin.bit;
+            }
+        }
     }
-    std::string_view const completion = m_builtins.completion;
-    if (std::any_of(args.begin(), args.end(), [&](char const* arg) { return mayName(arg, completion); })) {
-        build(true);
+    return found & m_available;
+}
+
+void CoreSession::fit(Arguments const& args) {
+    Builtins const wanted = named(args);
+    if (m_parser == nullptr || (wanted & ~m_built) != 0) {
+        build(m_built | wanted);
     }
 }
 
@@ -134,12 +215,14 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
         error = "the library could not make a parser";
         return 3;
     }
-    std::vector<char*> argv;
-    argv.reserve(args.size() + 1);
-    argv.push_back(m_programName);
-    for (char const* arg : args) {
+    // A short command line's argument vector is made on the stack.
+    std::array<char*, kShortLine> shortLine{};
+    std::vector<char*> longLine(args.size() < kShortLine ? 0 : args.size() + 1);
+    char** const argv = longLine.empty() ? shortLine.data() : longLine.data();
+    argv[0] = m_programName;
+    for (std::size_t i = 0; i < args.size(); ++i) {
         // The library's signature predates const: it copies the arguments and never writes to them.
-        argv.push_back(const_cast<char*>(arg));
+        argv[i + 1] = const_cast<char*>(args[i]);
     }
     // The library would switch its trace on for this first argument; the layer never prints.
     std::string traceless;
@@ -150,7 +233,7 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
     ResultHandle handle;
     m_parser->createResult(&handle.result);
     m_gate.begin(source, into, args.size());
-    int const code = m_parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), handle.result);
+    int const code = m_parser->parseArgsVector(static_cast<int>(args.size() + 1), argv, handle.result);
     if (code != 0) {
         error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();
         return code;
@@ -163,7 +246,11 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
     return 0;
 }
 
+// Among every name the App answers to, the layer's own options included.
 std::vector<std::string> CoreSession::suggestions(std::string const& argument) {
+    if (m_built != m_available) {
+        build(m_available);
+    }
     char const* names[kMaxSuggestions] = {};
     int const count = m_parser == nullptr ? 0 : suggestNames(m_parser, argument.c_str(), names, kMaxSuggestions);
     return std::vector<std::string>(names, names + count);

@@ -4,6 +4,7 @@
 #ifndef QUEN_3_1_SRC_APP_CORE_SESSION_H
 #define QUEN_3_1_SRC_APP_CORE_SESSION_H
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -45,17 +46,26 @@ public:
     std::int32_t lastSequence() const { return m_gate.lastSequence(); }
 
 private:
-    // A new parser with every option of the App; `shells`: --completion also lists its shells.
-    void build(bool shells);
+    // The layer's own options, as bits: each is handed to the library only when needed.
+    using Builtins = unsigned;
+
+    // A new parser with every option of the App and the layer's options in `builtins`.
+    void build(Builtins builtins);
     void registerOption(OptionState const& option);
-    void registerBuiltins(bool shells);
-    // The parser that `args` need: one that checks --completion's shells when an argument may name it.
+    void registerBuiltins(Builtins builtins);
+    // The layer's options that an argument of `args` may name (or, for the collector, be).
+    Builtins named(Arguments const& args) const;
+    // The parser that `args` need: built again, with more of the layer's options, when an
+    // argument may name one it lacks.
     void fit(Arguments const& args);
 
     AppState const& m_app;
-    bool m_top;
     bool m_showDefaults;
-    bool m_shells = false;
+    // The layer's options this App has, and those the current parser has.
+    Builtins m_available = 0;
+    Builtins m_built = 0;
+    // Bit c - 'a' set when a name of the layer's options this App has begins with letter c.
+    std::uint32_t m_initials = 0;
     IParser* m_parser = nullptr;
     BuiltinNames m_builtins;
     SlotLayout m_layout;

@@ -14,7 +14,7 @@ std::size_t const kDescriptionWidth = 50;
 
 std::string positionalUsage(OptionState const& option) {
     std::string usage = "<" + option.name() + ">";
-    if (option.binding().takesMany()) {
+    if (option.takesMany()) {
         usage += "...";
     }
     return option.m_required ? usage : "[" + usage + "]";

@@ -51,7 +51,7 @@ LevelParse::LevelParse(AppState& app, AppState const& root)
       m_root(root),
       m_session(app, &app == &root),
       m_line{Source::CommandLine, {}, std::vector<std::size_t>(m_session.layout().size())},
-      m_positionalCounts(app.m_options.size()) {}
+      m_positionalCounts(app.hasPositionals() ? app.m_options.size() : 0) {}
 
 bool LevelParse::run(Arguments const& args, ResultData& out, std::vector<Commit>& commits) {
     std::string error;
@@ -144,7 +144,10 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
 
 bool LevelParse::readEnvironment(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        std::string const variable = option->positional() ? std::string() : variableOf(*option);
+        if (option->positional() || (m_app.m_envPrefix.empty() && !option->linked())) {
+            continue;
+        }
+        std::string const variable = variableOf(*option);
         if (!variable.empty() && !readVariable(*option, variable, out)) {
             return false;
         }
@@ -159,7 +162,7 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
     }
     std::string const value = found;
     std::string argument = "--" + option.name() + "=" + value;
-    if (option.binding().kind() == tarvo2::vt_bool) {
+    if (option.kind() == tarvo2::vt_bool) {
         if (!isOneOf(value, kTrueWords) && !isOneOf(value, kFalseWords)) {
             return fail(out, text::inVariable(variable, text::notBoolean(value)));
         }
@@ -174,8 +177,8 @@ bool LevelParse::readVariable(OptionState const& option, std::string const& vari
 }
 
 std::string LevelParse::variableOf(OptionState const& option) const {
-    if (!option.m_env.empty()) {
-        return option.m_env;
+    if (!option.links().env.empty()) {
+        return option.links().env;
     }
     if (m_app.m_envPrefix.empty() || option.m_hidden) {
         return {};
@@ -205,9 +208,91 @@ bool LevelParse::given(std::string const& name) {
     return winner(m_session.layout().option(index)) != nullptr;
 }
 
-// The winners' values move into the result, each option's together in declaration order:
-// counted first, then placed. Nothing reads them here afterwards.
+// The winners' values move into the result, each option's together in declaration order,
+// and every option's count with them. Nothing reads them here afterwards.
 void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
+    SlotLayout const& layout = m_session.layout();
+    std::size_t const options = m_app.m_options.size();
+    commits.reserve(commits.size() + options);
+    bool const lineOnly = lineOnlyInOrder();
+    if (lineOnly) {
+        takeLine(out, commits);
+    } else {
+        takeWinners(out, commits);
+    }
+    out.m_counts.resize(out.m_counts.size() + options + m_app.m_files.size());
+    std::size_t* const counts = out.m_counts.data() + out.m_counts.size() - options - m_app.m_files.size();
+    for (std::size_t i = 0; i < options; ++i) {
+        if (m_app.m_options[i]->positional()) {
+            counts[i] = m_positionalCounts[i];
+        } else if (lineOnly) {
+            counts[i] = m_line.counts[layout.option(i)];
+        } else {
+            SourceValues const* const source = winner(layout.option(i));
+            counts[i] = source == nullptr ? 0 : source->counts[layout.option(i)];
+        }
+    }
+    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
+        counts[options + j] = m_line.counts[layout.file(j)];
+    }
+    out.m_levels[m_level].counted = true;
+}
+
+// No other source was parsed, so its counts were never made. The library reports no value
+// of a positional, which it does not know.
+bool LevelParse::lineOnlyInOrder() const {
+    if (!m_environment.counts.empty() || !m_files.counts.empty()) {
+        return false;
+    }
+    std::size_t const options = m_session.layout().options();
+    std::size_t last = 0;
+    for (SourceValue const& value : m_line.values) {
+        if (value.option < options) {
+            if (value.option < last) {
+                return false;
+            }
+            last = value.option;
+        }
+    }
+    return true;
+}
+
+void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
+    std::size_t const options = m_session.layout().options();
+    bool const whole =
+        out.m_values.empty() && std::all_of(m_line.values.begin(), m_line.values.end(),
+                                            [&](SourceValue const& value) { return value.option < options; });
+    if (whole) {
+        // Every value is taken, in this order: the list itself moves into the result.
+        out.m_values.swap(m_line.values);
+        for (std::size_t i = 0; i < out.m_values.size(); ++i) {
+            TakenValue& value = out.m_values[i];
+            value.level = m_level;
+            if (i == 0 || value.option != out.m_values[i - 1].option) {
+                commits.push_back(Commit{&m_app.m_options[value.option]->binding(), i, 0});
+            }
+            ++commits.back().count;
+        }
+        return;
+    }
+    out.m_values.reserve(out.m_values.size() + m_line.values.size());
+    std::size_t current = options;
+    for (SourceValue& value : m_line.values) {
+        if (value.option >= options) {
+            continue;
+        }
+        if (value.option != current) {
+            current = value.option;
+            commits.push_back(Commit{&m_app.m_options[current]->binding(), out.m_values.size(), 0});
+        }
+        ++commits.back().count;
+        out.m_values.push_back(
+            TakenValue{std::move(value.text), value.sequence, m_line.source, m_level, value.option, value.number});
+    }
+}
+
+// Counted first, then placed.
+void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     SlotLayout const& layout = m_session.layout();
     std::size_t const options = m_app.m_options.size();
     auto const taken = [&](SourceValues* source, std::size_t slot) {
@@ -216,19 +301,14 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     std::vector<std::size_t> place(options + 1);
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
         for (SourceValue const& value : source->values) {
-            if (taken(source, value.slot)) {
-                ++place[value.slot + 1];
+            if (taken(source, value.option)) {
+                ++place[value.option + 1];
             }
         }
     }
     std::size_t const base = out.m_values.size();
-    out.m_counts.reserve(out.m_counts.size() + options + m_app.m_files.size());
-    commits.reserve(commits.size() + options);
     for (std::size_t i = 0; i < options; ++i) {
         place[i + 1] += place[i];
-        SourceValues const* source = m_app.m_options[i]->positional() ? nullptr : winner(layout.option(i));
-        out.m_counts.push_back(m_app.m_options[i]->positional() ? m_positionalCounts[i]
-                                                                : (source == nullptr ? 0 : source->counts[i]));
         if (place[i + 1] != place[i]) {
             commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
         }
@@ -236,21 +316,17 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     out.m_values.resize(base + place[options], TakenValue{});
     for (SourceValues* source : {&m_line, &m_environment, &m_files}) {
         for (SourceValue& value : source->values) {
-            if (taken(source, value.slot)) {
-                TakenValue& kept = out.m_values[base + place[value.slot]++];
+            if (taken(source, value.option)) {
+                TakenValue& kept = out.m_values[base + place[value.option]++];
                 kept.text = std::move(value.text);
                 kept.sequence = value.sequence;
                 kept.source = source->source;
                 kept.level = m_level;
-                kept.option = value.slot;
+                kept.option = value.option;
                 kept.number = value.number;
             }
         }
     }
-    for (std::size_t j = 0; j < m_app.m_files.size(); ++j) {
-        out.m_counts.push_back(m_line.counts[layout.file(j)]);
-    }
-    out.m_levels[m_level].counted = true;
 }
 
 bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) {
@@ -274,7 +350,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
             continue;
         }
         std::size_t const take =
-            option.binding().takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
+            option.takesMany() ? plain.size() - next : std::min<std::size_t>(1, plain.size() - next);
         std::size_t const first = out.m_values.size();
         for (std::size_t i = 0; i < take; ++i, ++next) {
             Entry& entry = plain[next];
@@ -302,10 +378,10 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 
 bool LevelParse::checkRelations(ResultData& out) {
     for (auto const& option : m_app.m_options) {
-        bool const relates = !option->m_needs.empty() || !option->m_excludes.empty();
-        if (!option->m_required && !relates) {
+        if (!option->m_required && !option->linked()) {
             continue;
         }
+        OptionLinks const& links = std::as_const(*option).links();
         bool const present = given(option->name());
         if (option->m_required && !present) {
             return fail(out, text::required(option->name()));
@@ -313,12 +389,12 @@ bool LevelParse::checkRelations(ResultData& out) {
         if (!present) {
             continue;
         }
-        for (std::string const& other : option->m_needs) {
+        for (std::string const& other : links.needs) {
             if (!given(other)) {
                 return fail(out, text::needs(option->name(), other));
             }
         }
-        for (std::string const& other : option->m_excludes) {
+        for (std::string const& other : links.excludes) {
             if (given(other)) {
                 return fail(out, text::excludes(option->name(), other));
             }

@@ -45,6 +45,11 @@ private:
     SourceValues* winner(std::size_t slot);
     bool given(std::string const& name);
     void takeNamed(ResultData& out, std::vector<Commit>& commits);
+    // Whether only the command line gave options values, each option's given together and in
+    // declaration order: then they are taken as they stand.
+    bool lineOnlyInOrder() const;
+    void takeLine(ResultData& out, std::vector<Commit>& commits);
+    void takeWinners(ResultData& out, std::vector<Commit>& commits);
     bool fillPositionals(ResultData& out, std::vector<Commit>& commits);
     bool checkRelations(ResultData& out);
     bool descend(ResultData& out, std::vector<Commit>& commits);
@@ -58,7 +63,7 @@ private:
     std::vector<std::string> m_rest;
     // The last number of the command line's values, before what follows "--".
     std::int32_t m_lineEnd = 0;
-    // By option index; only positionals' are set.
+    // By option index; only positionals' are set (none kept for an App without positionals).
     std::vector<std::size_t> m_positionalCounts;
     // This level's index in the result's levels.
     std::uint32_t m_level = 0;

@@ -1,6 +1,8 @@
 #include "app/name_list.h"
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace quen_3_1::app_detail {
 
@@ -20,12 +22,45 @@ constexpr std::array<Character, 256> characterTable() {
 
 constexpr std::array<Character, 256> kCharacters = characterTable();
 
+constexpr std::uint64_t kEveryByte = 0x0101010101010101ULL;
+constexpr std::uint64_t kHighBits = 0x8080808080808080ULL;
+
+// Whether a byte of `word` is below '!' (a blank among them), a ',' or an '=': eight
+// characters tested at once, exactly (the high bits only mark that some byte is one).
+bool mayEndName(std::uint64_t word) {
+    auto const hasZero = [](std::uint64_t x) { return (x - kEveryByte) & ~x & kHighBits; };
+    std::uint64_t const below = (word - kEveryByte * '!') & ~word & kHighBits;
+    return (below | hasZero(word ^ (kEveryByte * ',')) | hasZero(word ^ (kEveryByte * '='))) != 0;
+}
+
+// A list of one long name, the usual case, has none of those characters: read a word at a
+// time, the last word overlapping the one before.
+bool isOneCleanName(std::string_view text) {
+    if (text.size() < sizeof(std::uint64_t) || text[0] == '-') {
+        return false;
+    }
+    std::uint64_t word = 0;
+    for (std::size_t at = 0; at + sizeof word < text.size(); at += sizeof word) {
+        std::memcpy(&word, text.data() + at, sizeof word);
+        if (mayEndName(word)) {
+            return false;
+        }
+    }
+    std::memcpy(&word, text.data() + text.size() - sizeof word, sizeof word);
+    return !mayEndName(word);
+}
+
 }  // namespace
 
 // One pass over the text: each character is looked up once, and a name ends at a
 // separator or at the end. No empty name and no leading '-'.
 NameList NameList::split(std::string_view text) {
     NameList list;
+    if (isOneCleanName(text)) {
+        list.m_places[0] = Place{0, static_cast<std::uint32_t>(text.size())};
+        list.m_count = 1;
+        return list;
+    }
     std::size_t start = 0;
     for (std::size_t at = 0;; ++at) {
         bool const end = at == text.size();

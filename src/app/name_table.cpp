@@ -52,7 +52,7 @@ std::size_t hashOf(std::string_view name) {
 }  // namespace
 
 std::uint32_t NameTable::find(std::string_view name) const {
-    return m_slots.empty() ? kNone : m_slots[slotOf(name)].id;
+    return m_slots.empty() ? kNone : m_slots[slotOf(name, hashOf(name))].id;
 }
 
 std::uint32_t NameTable::insert(std::string_view name, std::uint32_t id) {
@@ -60,17 +60,19 @@ std::uint32_t NameTable::insert(std::string_view name, std::uint32_t id) {
     if (2 * (m_used + 1) > m_slots.size()) {
         grow();
     }
-    Slot& slot = m_slots[slotOf(name)];
+    std::size_t const hash = hashOf(name);
+    Slot& slot = m_slots[slotOf(name, hash)];
     if (slot.id != kNone) {
         return slot.id;
     }
-    slot = Slot{id, static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(name.size())};
+    slot = Slot{id, static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(name.size()),
+                static_cast<std::uint32_t>(hash)};
     m_text.append(name);
     ++m_used;
     return kNone;
 }
 
-void NameTable::update(std::string_view name, std::uint32_t id) { m_slots[slotOf(name)].id = id; }
+void NameTable::update(std::string_view name, std::uint32_t id) { m_slots[slotOf(name, hashOf(name))].id = id; }
 
 // Names are appended to the text as they are inserted: the first is the one placed first.
 std::string_view NameTable::firstNameOf(std::uint32_t id) const {
@@ -83,13 +85,18 @@ std::string_view NameTable::firstNameOf(std::uint32_t id) const {
     return first == nullptr ? std::string_view() : nameOf(*first);
 }
 
-std::size_t NameTable::slotOf(std::string_view name) const {
+// A slot of another name is mostly passed on its hash alone.
+std::size_t NameTable::slotOf(std::string_view name, std::size_t hash) const {
     std::size_t const mask = m_slots.size() - 1;
-    std::size_t i = hashOf(name) & mask;
-    while (m_slots[i].id != kNone && nameOf(m_slots[i]) != name) {
-        i = (i + 1) & mask;
+    auto const kept = static_cast<std::uint32_t>(hash);
+    std::size_t i = hash & mask;
+    for (;; i = (i + 1) & mask) {
+        Slot const& slot = m_slots[i];
+        if (slot.id == kNone || (slot.hash == kept && slot.size == name.size() &&
+                                 std::memcmp(m_text.data() + slot.offset, name.data(), name.size()) == 0)) {
+            return i;
+        }
     }
-    return i;
 }
 
 void NameTable::grow() {
@@ -100,7 +107,7 @@ void NameTable::grow() {
     }
     for (Slot const& slot : old) {
         if (slot.id != kNone) {
-            m_slots[slotOf(nameOf(slot))] = slot;
+            m_slots[slotOf(nameOf(slot), slot.hash)] = slot;
         }
     }
 }

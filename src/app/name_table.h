@@ -31,11 +31,12 @@ private:
         std::uint32_t id = kNone;
         std::uint32_t offset = 0;  // of the name in m_text
         std::uint32_t size = 0;
+        std::uint32_t hash = 0;  // the name's hash, compared before its text
     };
 
-    std::string_view nameOf(Slot const& slot) const { return std::string_view(m_text).substr(slot.offset, slot.size); }
-    // The slot that holds `name`, else the empty slot where it goes.
-    std::size_t slotOf(std::string_view name) const;
+    std::string_view nameOf(Slot const& slot) const { return std::string_view(m_text.data() + slot.offset, slot.size); }
+    // The slot that holds `name` (whose hash is `hash`), else the empty slot where it goes.
+    std::size_t slotOf(std::string_view name, std::size_t hash) const;
     void grow();
 
     std::vector<Slot> m_slots;

@@ -29,12 +29,14 @@ Option<T>& Option<T>::required() {
 template <class T>
 Option<T>& Option<T>::allow(std::vector<Element> values) {
     typed<T>(m_state).allow(std::move(values));
+    m_state->m_allows = true;
     return *this;
 }
 
 template <class T>
 Option<T>& Option<T>::setRange(Element lowest, Element highest) {
     typed<T>(m_state).range(lowest, highest);
+    m_state->m_ranged = true;
     return *this;
 }
 
@@ -46,19 +48,19 @@ Option<T>& Option<T>::check(std::function<std::string(Element const&)> test) {
 
 template <class T>
 Option<T>& Option<T>::env(std::string variable) {
-    m_state->m_env = std::move(variable);
+    m_state->links().env = std::move(variable);
     return *this;
 }
 
 template <class T>
 Option<T>& Option<T>::needs(std::string other) {
-    m_state->m_needs.push_back(std::move(other));
+    m_state->links().needs.push_back(std::move(other));
     return *this;
 }
 
 template <class T>
 Option<T>& Option<T>::excludes(std::string other) {
-    m_state->m_excludes.push_back(std::move(other));
+    m_state->links().excludes.push_back(std::move(other));
     return *this;
 }
 

@@ -58,7 +58,9 @@ private:
                 m_blocks.reserve(kFirstBlocks);
             }
             m_capacity = units > kBlockUnits ? units : kBlockUnits;
-            m_blocks.push_back(std::make_unique<std::max_align_t[]>(m_capacity));
+            // Left uninitialised, as objects are made in it: zeroing it would store a long
+            // double per unit through the x87 unit, which costs more than the block's allocation.
+            m_blocks.emplace_back(new std::max_align_t[m_capacity]);
             m_used = 0;
         }
         void* const room = m_blocks.back().get() + m_used;

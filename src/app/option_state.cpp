@@ -7,9 +7,20 @@ namespace quen_3_1::app_detail {
 void OptionState::declare(std::string namesText, NameList names, char const* help, bool positional) {
     m_namesText = std::move(namesText);
     m_names = names;
-    m_name = m_names.empty() ? m_namesText : std::string(nameAt(0));
     m_help = help;
     m_positional = positional;
+}
+
+OptionLinks const& OptionState::unlinked() {
+    static OptionLinks const none;
+    return none;
+}
+
+OptionLinks& OptionState::links() {
+    if (m_links == nullptr) {
+        m_links = std::make_unique<OptionLinks>();
+    }
+    return *m_links;
 }
 
 }  // namespace quen_3_1::app_detail

@@ -27,14 +27,14 @@ struct Scratch {
 
 // The library's verdict; an empty text or a flag has nothing for it to check.
 std::string libraryCheck(OptionState const& option, std::string& text) {
-    if (text.empty() || option.binding().kind() == tarvo2::vt_bool) {
+    if (text.empty() || option.kind() == tarvo2::vt_bool) {
         return {};
     }
     Scratch scratch;
     if (createParser(&scratch.parser, 0) != 0 || scratch.parser->createResult(&scratch.result) != 0) {
         return "the library could not make a parser";
     }
-    IOption* declared = scratch.parser->option(option.name().c_str(), "", option.binding().kind(), "");
+    IOption* declared = scratch.parser->option(option.name().c_str(), "", option.kind(), "");
     declared->tokenize(0);
     option.binding().describe(*declared);
     std::string argument = "--" + option.name() + "=" + text;

@@ -33,11 +33,11 @@ using ReadNumber = std::uint64_t;
 // entries are asked for (the first name of option `option` of level `level`, see name_id.h).
 struct TakenValue {
     std::string text;
-    std::int32_t sequence;
-    Source source;
-    std::uint32_t level;
-    std::uint32_t option;
-    ReadNumber number;
+    std::int32_t sequence = 0;
+    Source source = Source::CommandLine;
+    std::uint32_t level = 0;
+    std::uint32_t option = 0;
+    ReadNumber number = 0;
 };
 
 class ResultData {

@@ -15,12 +15,10 @@
 
 namespace quen_3_1::app_detail {
 
-struct SourceValue {
-    std::string text;
-    std::int32_t sequence;
-    std::uint32_t slot;
-    ReadNumber number;
-};
+// A value as its source gave it is the result's kind of value, its option the slot it was
+// recorded at (its level set when the result takes it), so that a source's values can move
+// into the result whole.
+using SourceValue = TakenValue;
 
 struct SourceValues {
     Source source = Source::CommandLine;

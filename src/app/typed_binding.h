@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -50,19 +51,22 @@ template <class T>
 class TypedBinding final : public Binding {
 public:
     using Element = typename ElementOf<T>::type;
+    static constexpr bool kMany = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
+    static constexpr tarvo2::kel_variant_type_t kKind = kindOf<Element>();
 
     explicit TypedBinding(T& target) : m_target(target) {}
 
-    void allow(std::vector<Element> values) { m_allowed = std::move(values); }
-    void range(Element lowest, Element highest) { m_range = std::make_pair(lowest, highest); }
-    void check(std::function<std::string(Element const&)> test) { m_checks.push_back(std::move(test)); }
-
-    tarvo2::kel_variant_type_t kind() const override { return kindOf<Element>(); }
-    bool takesMany() const override { return isVector; }
+    void allow(std::vector<Element> values) { refined().allowed = std::move(values); }
+    void range(Element lowest, Element highest) { refined().range = std::make_pair(lowest, highest); }
+    void check(std::function<std::string(Element const&)> test) { refined().checks.push_back(std::move(test)); }
 
     void describe(IOption& option) const override {
-        for (Element const& value : m_allowed) {
-            option.allowValue(variantOf(value));
+        if (m_refined == nullptr) {
+            return;
+        }
+        // A std::vector<bool> hands out proxies: each is read as the element it stands for.
+        for (auto const& value : m_refined->allowed) {
+            option.allowValue(variantOf<Element>(value));
         }
     }
 
@@ -72,24 +76,24 @@ public:
             if (!m_target.empty()) {
                 option.defaultValue(variantOf(m_target));
             }
-        } else if constexpr (!isVector && !isOptional) {
+        } else if constexpr (!kMany && !isOptional) {
             option.defaultValue(variantOf(m_target));
         }
     }
 
-    std::string check(std::string_view option, std::string const& text, ReadNumber& number) const override {
+    std::string check(std::string_view option, std::string_view text, ReadNumber& number) const override {
         if constexpr (std::is_same_v<Element, std::string>) {
-            // A text is its own value: nothing to convert, nothing to copy.
-            return refine(option, text, text);
+            // A text is its own value: nothing to convert, and copied only for the host's checks.
+            return m_refined == nullptr ? std::string() : refine(option, text, std::string(text));
         } else {
             Element value{};
             if (!readWhole(text, value)) {
-                return text::notWhole(std::string(option), text, wholeKind(value));
+                return text::notWhole(std::string(option), std::string(text), wholeKind(value));
             }
             static_assert(sizeof value <= sizeof number, "a number read fits its bits");
             number = 0;
             std::memcpy(&number, &value, sizeof value);
-            return refine(option, text, value);
+            return m_refined == nullptr ? std::string() : refine(option, text, value);
         }
     }
 
@@ -97,7 +101,7 @@ public:
         if (first == last) {
             return;
         }
-        if constexpr (isVector) {
+        if constexpr (kMany) {
             m_target.clear();
             for (; first != last; ++first) {
                 m_target.push_back(valueOf(*first));
@@ -107,16 +111,15 @@ public:
         }
     }
 
-    std::string mistake(std::string const& option) const override {
-        if (m_range && m_range->second < m_range->first) {
-            return text::emptyRange(option);
+    std::string mistake(std::string_view option) const override {
+        if (m_refined != nullptr && m_refined->range && m_refined->range->second < m_refined->range->first) {
+            return text::emptyRange(std::string(option));
         }
         return {};
     }
 
 private:
-    static constexpr bool isVector = !std::is_same_v<T, Element> && std::is_same_v<T, std::vector<Element>>;
-    static constexpr bool isOptional = !std::is_same_v<T, Element> && !isVector;
+    static constexpr bool isOptional = !std::is_same_v<T, Element> && !kMany;
 
     // The value of a checked text: a text itself (copied once, into the variable), the number check read.
     static decltype(auto) valueOf(TakenValue const& taken) {
@@ -129,24 +132,38 @@ private:
         }
     }
 
-    // The range and the host's checks, for a value that is whole.
-    std::string refine(std::string_view option, std::string const& text, Element const& value) const {
-        if (m_range && (value < m_range->first || m_range->second < value)) {
-            return text::outOfRange(std::string(option), text, valueText(m_range->first), valueText(m_range->second));
+    // Allowed values, range and the host's checks: made when the host sets one.
+    struct Refinements {
+        std::vector<Element> allowed;
+        std::optional<std::pair<Element, Element>> range;
+        std::vector<std::function<std::string(Element const&)>> checks;
+    };
+
+    Refinements& refined() {
+        if (m_refined == nullptr) {
+            m_refined = std::make_unique<Refinements>();
         }
-        for (auto const& test : m_checks) {
+        return *m_refined;
+    }
+
+    // The range and the host's checks, for a value that is whole.
+    std::string refine(std::string_view option, std::string_view text, Element const& value) const {
+        auto const& range = m_refined->range;
+        if (range && (value < range->first || range->second < value)) {
+            return text::outOfRange(std::string(option), std::string(text), valueText(range->first),
+                                    valueText(range->second));
+        }
+        for (auto const& test : m_refined->checks) {
             std::string reason = test ? test(value) : std::string();
             if (!reason.empty()) {
-                return text::failedCheck(std::string(option), text, reason);
+                return text::failedCheck(std::string(option), std::string(text), reason);
             }
         }
         return {};
     }
 
     T& m_target;
-    std::vector<Element> m_allowed;
-    std::optional<std::pair<Element, Element>> m_range;
-    std::vector<std::function<std::string(Element const&)>> m_checks;
+    std::unique_ptr<Refinements> m_refined;
 };
 
 }  // namespace quen_3_1::app_detail

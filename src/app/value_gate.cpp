@@ -1,7 +1,6 @@
 #include "app/value_gate.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace quen_3_1::app_detail {
 
@@ -30,10 +29,7 @@ std::size_t ValueGate::slotOf(char const* name) {
     if (name == m_lastName && name != nullptr) {
         return m_lastSlot;
     }
-    std::string_view const text = name == nullptr ? std::string_view() : std::string_view(name);
-    if (m_lastSlot >= m_layout.options() || m_app.m_options[m_lastSlot]->name() != text) {
-        m_lastSlot = m_layout.of(text);
-    }
+    m_lastSlot = m_layout.of(name == nullptr ? std::string_view() : std::string_view(name));
     m_lastName = name;
     return m_lastSlot;
 }
@@ -55,7 +51,7 @@ bool ValueGate::onOptionParse(char const* name) {
     // occurrence took the next number after the last value, which no event tells.
     m_emptyArgument = slot == m_layout.collector();
     if (m_emptyArgument) {
-        record(slot, std::string(), ++m_lastSequence, 0);
+        record(slot, std::string_view(), ++m_lastSequence, 0);
     }
     return true;
 }
@@ -69,7 +65,7 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
         m_lastSequence = value.m_index;
         return true;
     }
-    std::string text = value.m_text == nullptr ? std::string() : std::string(value.m_text);
+    std::string_view const text = value.m_text == nullptr ? std::string_view() : std::string_view(value.m_text);
     ReadNumber number = 0;
     if (slot < m_layout.options()) {
         m_refusal = m_app.m_options[slot]->binding().check(name, text, number);
@@ -80,18 +76,24 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
     m_lastSequence = value.m_index;
     SourceValue* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;
     if (last != nullptr) {
-        last->text = std::move(text);
+        last->text.assign(text.data(), text.size());
         last->sequence = value.m_index;
         last->number = number;
         m_emptyArgument = false;
         return true;
     }
-    record(slot, std::move(text), value.m_index, number);
+    record(slot, text, value.m_index, number);
     return true;
 }
 
-void ValueGate::record(std::size_t slot, std::string text, std::int32_t sequence, ReadNumber number) {
-    m_into->values.push_back(SourceValue{std::move(text), sequence, static_cast<std::uint32_t>(slot), number});
+void ValueGate::record(std::size_t slot, std::string_view text, std::int32_t sequence, ReadNumber number) {
+    // Made in place: no value is built to be moved.
+    SourceValue& value = m_into->values.emplace_back();
+    value.text.assign(text.data(), text.size());
+    value.sequence = sequence;
+    value.source = m_into->source;
+    value.option = static_cast<std::uint32_t>(slot);
+    value.number = number;
 }
 
 bool ValueGate::onUknownArgument(char const* argument) {

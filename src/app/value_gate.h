@@ -38,7 +38,7 @@ public:
 
 private:
     std::size_t slotOf(char const* name);
-    void record(std::size_t slot, std::string text, std::int32_t sequence, ReadNumber number);
+    void record(std::size_t slot, std::string_view text, std::int32_t sequence, ReadNumber number);
 
     AppState const& m_app;
     SlotLayout const& m_layout;

@@ -27,9 +27,9 @@ bool allOf(std::string_view text, Test test) {
 }
 
 // Digits with an optional leading '-' (signed types only); no blanks, no '+'.
-bool isDecimal(std::string const& text, bool sign) {
+bool isDecimal(std::string_view text, bool sign) {
     std::size_t const start = sign && !text.empty() && text[0] == '-' ? 1 : 0;
-    return allOf(std::string_view(text).substr(start), isDigit);
+    return allOf(text.substr(start), isDigit);
 }
 
 // The digits of `digits` (all of them digits) as a number; false when it does not fit.
@@ -48,15 +48,14 @@ bool readDigits(std::string_view digits, unsigned long long& out) {
 }
 
 // Read here rather than by strtoll: the text is known to be digits, so only the bounds need care.
-bool readSigned(std::string const& text, long long& out) {
+bool readSigned(std::string_view text, long long& out) {
     if (!isDecimal(text, true)) {
         return false;
     }
     bool const negative = text[0] == '-';
     unsigned long long magnitude = 0;
     auto const largest = static_cast<unsigned long long>(std::numeric_limits<long long>::max());
-    if (!readDigits(std::string_view(text).substr(negative ? 1 : 0), magnitude) ||
-        magnitude > largest + (negative ? 1 : 0)) {
+    if (!readDigits(text.substr(negative ? 1 : 0), magnitude) || magnitude > largest + (negative ? 1 : 0)) {
         return false;
     }
     // Negated in unsigned arithmetic: the most negative value has no positive counterpart.
@@ -110,9 +109,11 @@ bool readShortDecimal(std::string_view text, double& out) {
     return true;
 }
 
-bool readUnsigned(std::string const& text, int base, unsigned long long& out) {
+// `text` is hexadecimal digits only.
+bool readUnsigned(std::string_view text, int base, unsigned long long& out) {
+    std::string const terminated(text);
     errno = 0;
-    out = std::strtoull(text.c_str(), nullptr, base);
+    out = std::strtoull(terminated.c_str(), nullptr, base);
     return errno == 0;
 }
 
@@ -125,15 +126,15 @@ std::string streamed(T value) {
 
 }  // namespace
 
-bool readWhole(std::string const& text, bool& out) {
-    if (text != "1" && text != "0") {
+bool readWhole(std::string_view text, bool& out) {
+    if (text.size() != 1 || (text[0] != '1' && text[0] != '0')) {
         return false;
     }
-    out = text == "1";
+    out = text[0] == '1';
     return true;
 }
 
-bool readWhole(std::string const& text, int& out) {
+bool readWhole(std::string_view text, int& out) {
     long long wide = 0;
     if (!readSigned(text, wide) || wide < std::numeric_limits<int>::min() || wide > std::numeric_limits<int>::max()) {
         return false;
@@ -142,7 +143,7 @@ bool readWhole(std::string const& text, int& out) {
     return true;
 }
 
-bool readWhole(std::string const& text, unsigned& out) {
+bool readWhole(std::string_view text, unsigned& out) {
     unsigned long long wide = 0;
     if (!isDecimal(text, false) || !readDigits(text, wide) || wide > std::numeric_limits<unsigned>::max()) {
         return false;
@@ -151,21 +152,20 @@ bool readWhole(std::string const& text, unsigned& out) {
     return true;
 }
 
-bool readWhole(std::string const& text, long long& out) { return readSigned(text, out); }
+bool readWhole(std::string_view text, long long& out) { return readSigned(text, out); }
 
-bool readWhole(std::string const& text, unsigned long long& out) {
-    std::string_view const view = text;
-    if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && allOf(view.substr(2), isHexDigit)) {
+bool readWhole(std::string_view text, unsigned long long& out) {
+    if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') && allOf(text.substr(2), isHexDigit)) {
         return readUnsigned(text.substr(2), 16, out);
     }
     if (text.size() > 1 && (text.back() == 'h' || text.back() == 'H') &&
-        allOf(view.substr(0, text.size() - 1), isHexDigit)) {
+        allOf(text.substr(0, text.size() - 1), isHexDigit)) {
         return readUnsigned(text.substr(0, text.size() - 1), 16, out);
     }
     return isDecimal(text, false) && readDigits(text, out);
 }
 
-bool readWhole(std::string const& text, double& out) {
+bool readWhole(std::string_view text, double& out) {
     // What the short path takes is made of number characters only.
     if (readShortDecimal(text, out)) {
         return true;
@@ -174,10 +174,11 @@ bool readWhole(std::string const& text, double& out) {
     if (!allOf(text, isNumberCharacter)) {
         return false;
     }
+    std::string const terminated(text);
     char* end = nullptr;
     errno = 0;
-    double const value = std::strtod(text.c_str(), &end);
-    if (errno != 0 || end != text.c_str() + text.size() || !std::isfinite(value)) {
+    double const value = std::strtod(terminated.c_str(), &end);
+    if (errno != 0 || end != terminated.c_str() + terminated.size() || !std::isfinite(value)) {
         return false;
     }
     out = value;

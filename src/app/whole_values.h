@@ -4,17 +4,18 @@
 #define QUEN_3_1_SRC_APP_WHOLE_VALUES_H
 
 #include <string>
+#include <string_view>
 
 namespace quen_3_1::app_detail {
 
 // True and `out` set when `text` is exactly one value of the type.
-bool readWhole(std::string const& text, bool& out);
-bool readWhole(std::string const& text, int& out);
-bool readWhole(std::string const& text, unsigned& out);
-bool readWhole(std::string const& text, long long& out);
+bool readWhole(std::string_view text, bool& out);
+bool readWhole(std::string_view text, int& out);
+bool readWhole(std::string_view text, unsigned& out);
+bool readWhole(std::string_view text, long long& out);
 // Also the library's hexadecimal forms: 0x1F, 1Fh.
-bool readWhole(std::string const& text, unsigned long long& out);
-bool readWhole(std::string const& text, double& out);
+bool readWhole(std::string_view text, unsigned long long& out);
+bool readWhole(std::string_view text, double& out);
 
 // What a value of the type must look like, for messages.
 std::string wholeKind(bool const& /*tag*/);

@@ -30,6 +30,11 @@ bool BasicParser::onOptionParse(char const* name) {
         return true;
     }
     char const* const kept = keptEventName(name);
+    // One handler, the usual case, is called without walking the set.
+    if (m_handlers.size() == 1) {
+        (*m_handlers.begin())->onOptionParse(kept);
+        return true;
+    }
     for (EventHandler* handler : m_handlers) {
         handler->onOptionParse(kept);
     }
@@ -42,6 +47,9 @@ bool BasicParser::onValueParse(char const* name, Value const& value) {
         return true;
     }
     char const* const kept = keptEventName(name);
+    if (m_handlers.size() == 1) {
+        return (*m_handlers.begin())->onValueParse(kept, value);
+    }
     bool accepted = true;
     for (auto it = m_handlers.begin(); accepted && it != m_handlers.end(); ++it) {
         accepted = (*it)->onValueParse(kept, value);

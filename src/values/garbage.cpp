@@ -6,7 +6,9 @@ namespace quen_3_1 {
 
 namespace {
 
-constexpr std::size_t kFirstCapacity = 16;
+// Room for the names of a command line's options (the events of a parse keep one each)
+// before the table first grows.
+constexpr std::size_t kFirstCapacity = 32;
 
 }  // namespace
 

@@ -121,6 +121,32 @@ TEST(DeclarationMistakes, MalformedAnywhereInTheList) {
     }
 }
 
+// Long names are read eight characters at a time: a refused character is found in every place.
+TEST(DeclarationMistakes, MalformedLongNames) {
+    std::string const rules =
+        "' is malformed (up to three comma-separated names, none empty, none beginning with '-' or holding '=' or "
+        "a blank, a third one of at most two characters)";
+    for (std::string const names : {"abcdefgh,", "abcdefg,", "abcdefghi=x", "verbose level", "log-file\n", "-log-file",
+                                    "one,two,three-long", "abcdefghijklmnop\v", "a\tbcdefghijklmn"}) {
+        std::string expected = "the name list '";
+        expected.append(names).append(rules);
+        expectMistake([&](quen_3_1::App& app) { app.option(names, g_value, "A."); }, expected);
+    }
+}
+
+TEST(DeclarationMistakes, LongNamesWithAShortOneAreAccepted) {
+    quen_3_1::App app("prog");
+    int jobs = 0;
+    int level = 0;
+    app.option("parallel-jobs,j", jobs, "Workers.");
+    app.option("verbosity-level", level, "Detail.");
+    quen_3_1::Result const result = parseLine(app, {"-j", "3", "--verbosity-level=2"});
+    EXPECT_EQ(result.exitCode(), 0) << result.message();
+    EXPECT_EQ(jobs, 3);
+    EXPECT_EQ(level, 2);
+    EXPECT_EQ(result.count("parallel-jobs"), 1U);
+}
+
 TEST(DeclarationMistakes, ThreeNamesWithAShortThirdAreAccepted) {
     quen_3_1::App app("prog");
     int jobs = 0;

@@ -88,6 +88,33 @@ TEST_F(Qsync, AmbiguousOptionGetsSuggestions) {
               "Try 'qsync --help' for more information.\n");
 }
 
+TEST_F(Qsync, TypoOfHelpIsSuggestedThoughNoArgumentNamesIt) {
+    EXPECT_EQ(parseLine(app, {"--hepl", "a"}).message(),
+              "qsync: error: Unknown option: --hepl\n"
+              "Did you mean '--help'?\n"
+              "Usage: qsync [options] <files>...\n"
+              "Try 'qsync --help' for more information.\n");
+}
+
+TEST_F(Qsync, OwnOptionsAnsweredByAbbreviation) {
+    EXPECT_EQ(parseLine(app, {"--he"}).message().substr(0, 6), "Usage:");
+    EXPECT_EQ(parseLine(app, {"-he="}).message().substr(0, 6), "Usage:");
+    EXPECT_EQ(parseLine(app, {"-vers", "a"}).message(), "qsync 1.4.2\n");
+    EXPECT_EQ(parseLine(app, {"--comp=zsh"}).message(), parseLine(app, {"--completion", "zsh"}).message());
+    EXPECT_EQ(parseLine(app, {"--comp=tcsh"}).message(),
+              "qsync: error: Value validation problem in argument '--comp=tcsh': Option 'completion' does not allow "
+              "value 'tcsh'. Possible values follows: 'bash', 'zsh', 'fish'\n"
+              "Usage: qsync [options] <files>...\n"
+              "Try 'qsync --help' for more information.\n");
+}
+
+TEST_F(Qsync, AbbreviationOfTheArgumentCollectorTakesAPlainArgument) {
+    quen_3_1::Result const result = parseLine(app, {"--q-a-a=x", "-v"});
+    EXPECT_FALSE(result.done()) << result.message();
+    EXPECT_EQ(files, std::vector<std::string>{"x"});
+    EXPECT_TRUE(verbose);
+}
+
 TEST_F(Qsync, ErrorsGoToStandardErrorWithCodeTwo) {
     quen_test::Outputs const written = quen_test::outputsOf([&] {
         EXPECT_EQ(parseLine(app, {"--jobs=99", "a"}).exit(), 2);

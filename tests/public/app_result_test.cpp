@@ -39,6 +39,32 @@ TEST(ResultEntries, CommandLineOrderWithIncreasingSequenceNumbers) {
 
 // With quen.h a query inside a query of another option moves the one cursor:
 // the outer loop stops after its first value.
+TEST(ResultEntries, OptionsGivenInDeclarationOrderKeepEveryValue) {
+    quen_3_1::App app("prog");
+    std::vector<std::string> targets;
+    int jobs = 0;
+    bool quiet = false;
+    app.option("target", targets, "Build these.");
+    app.option("jobs", jobs, "Workers.");
+    app.option("quiet", quiet, "Say less.");
+    quen_3_1::Result const result = parseLine(app, {"--target=a", "--target=b", "--jobs=2", "--jobs=3"});
+    ASSERT_EQ(result.exitCode(), 0);
+    EXPECT_EQ(targets, (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(jobs, 3);
+    EXPECT_FALSE(quiet);
+    EXPECT_EQ(result.count("target"), 2U);
+    EXPECT_EQ(result.count("jobs"), 2U);
+    EXPECT_EQ(result.count("quiet"), 0U);
+    std::vector<std::string> seen;
+    std::int32_t last = 0;
+    for (quen_3_1::Entry const& entry : result.entries()) {
+        seen.push_back(entry.name + "=" + entry.text);
+        EXPECT_LT(last, entry.sequence);
+        last = entry.sequence;
+    }
+    EXPECT_EQ(seen, (std::vector<std::string>{"target=a", "target=b", "jobs=2", "jobs=3"}));
+}
+
 TEST(ResultEntries, NestedLoopLosesValuesWithTheBinaryInterface) {
     quen_3_1::IParser* parser = nullptr;
     ASSERT_EQ(quen_3_1::createParser(&parser, 0), 0);

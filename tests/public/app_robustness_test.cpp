@@ -89,6 +89,26 @@ TEST(AnyInputs, OddArgumentsGiveZeroOrTwo) {
     EXPECT_EQ(written.err, "");
 }
 
+// Short command lines are handed to the library from the stack, long ones otherwise: both whole.
+TEST(AnyInputs, LongAndShortCommandLinesAreReadWhole) {
+    for (std::size_t const count : {std::size_t{62}, std::size_t{63}, std::size_t{64}, std::size_t{200}}) {
+        quen_3_1::App app("prog");
+        int jobs = 0;
+        std::vector<std::string> files;
+        app.option("jobs,j", jobs, "Workers.");
+        app.positional("files", files, "Inputs.");
+        std::vector<std::string> line{"--jobs=3"};
+        for (std::size_t i = 1; i < count; ++i) {
+            line.push_back("f" + std::to_string(i));
+        }
+        quen_3_1::Result const result = parseLine(app, line);
+        ASSERT_EQ(result.exitCode(), 0) << result.message();
+        EXPECT_EQ(jobs, 3);
+        ASSERT_EQ(files.size(), count - 1);
+        EXPECT_EQ(files.back(), "f" + std::to_string(count - 1));
+    }
+}
+
 TEST(AnyInputs, NullArgumentsAreEmptyTexts) {
     quen_3_1::App app("prog");
     std::vector<std::string> files;
