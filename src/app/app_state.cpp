@@ -19,7 +19,7 @@ std::size_t const kFirstOptions = 16;
 AppState::AppState(std::string program, std::string about)
     : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
-void AppState::add(std::string names, std::string_view help, bool positional, OptionHandle state) {
+void AppState::add(std::string&& names, std::string_view help, bool positional, OptionHandle state) {
     NameList const split = NameList::split(names);
     bool const flag = !positional && state->kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);

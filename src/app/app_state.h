@@ -41,7 +41,7 @@ public:
 
     // Declares an option or positional (its help copied into the arena); a refused one is
     // kept aside, so that the host may still refine what it got back.
-    void add(std::string names, std::string_view help, bool positional, OptionHandle state);
+    void add(std::string&& names, std::string_view help, bool positional, OptionHandle state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);

@@ -4,7 +4,7 @@
 
 namespace quen_3_1::app_detail {
 
-void OptionState::declare(std::string namesText, NameList names, char const* help, bool positional) {
+void OptionState::declare(std::string&& namesText, NameList names, char const* help, bool positional) {
     m_namesText = std::move(namesText);
     m_names = names;
     m_help = help;

@@ -29,7 +29,7 @@ public:
 
     // Once, when the App takes the declaration.
     // `names` is `namesText` split (empty when it breaks the rules); `help` lives as long as the App.
-    void declare(std::string namesText, NameList names, char const* help, bool positional);
+    void declare(std::string&& namesText, NameList names, char const* help, bool positional);
 
     std::string const& namesText() const { return m_namesText; }
     std::size_t nameCount() const { return m_names.size(); }
