@@ -64,6 +64,9 @@ public:
     std::string mistake() const;
     // Whether a positional was declared.
     bool hasPositionals() const { return m_positionals; }
+    // Whether an option has a requirement, range, variable or relation: most have none, and
+    // the checks of those then need not visit every option.
+    bool refined() const { return m_refined; }
 
     // First: it outlives the declarations it holds.
     OptionArena m_arena;
@@ -94,6 +97,7 @@ private:
     std::string m_negated;
     bool m_vectorPositional = false;
     bool m_positionals = false;
+    bool m_refined = false;
 };
 
 }  // namespace quen_3_1::app_detail
