@@ -272,7 +272,7 @@ void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
             TakenValue& value = out.m_values[i];
             value.level = m_level;
             if (i == 0 || value.option != out.m_values[i - 1].option) {
-                commits.push_back(Commit{&m_app.m_options[value.option]->binding(), i, 0});
+                commits.emplace_back(&m_app.m_options[value.option]->binding(), i, 0);
             }
             ++commits.back().count;
         }
@@ -286,7 +286,7 @@ void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
         }
         if (value.option != current) {
             current = value.option;
-            commits.push_back(Commit{&m_app.m_options[current]->binding(), out.m_values.size(), 0});
+            commits.emplace_back(&m_app.m_options[current]->binding(), out.m_values.size(), 0);
         }
         ++commits.back().count;
         out.m_values.push_back(
@@ -313,7 +313,7 @@ void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     for (std::size_t i = 0; i < options; ++i) {
         place[i + 1] += place[i];
         if (place[i + 1] != place[i]) {
-            commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
+            commits.emplace_back(&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]);
         }
     }
     out.m_values.resize(base + place[options], TakenValue{});
@@ -367,7 +367,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         }
         m_positionalCounts[index] = take;
         if (take != 0) {
-            commits.push_back(Commit{&option.binding(), first, take});
+            commits.emplace_back(&option.binding(), first, take);
         }
     }
     if (next < beforeTerminator) {
