@@ -4,7 +4,8 @@
 
 namespace quen_3_1::app_detail {
 
-void OptionState::declare(std::string&& namesText, NameList names, char const* help, bool positional, bool& refined) {
+void OptionState::declare(std::string&& namesText, NameList const& names, char const* help, bool positional,
+                          bool& refined) {
     m_refined = &refined;
     m_namesText = std::move(namesText);
     m_names = names;

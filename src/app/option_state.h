@@ -30,7 +30,7 @@ public:
     // Once, when the App takes the declaration.
     // `names` is `namesText` split (empty when it breaks the rules); `help` lives as long as the App.
     // `refined` (the App's) is set once a requirement, range, variable or relation is.
-    void declare(std::string&& namesText, NameList names, char const* help, bool positional, bool& refined);
+    void declare(std::string&& namesText, NameList const& names, char const* help, bool positional, bool& refined);
     // Notes on the App that this declaration has a requirement, range, variable or relation.
     void refine() { *m_refined = true; }
 
