@@ -31,8 +31,9 @@ Arguments argumentsOf(int argc, char const* const* argv) {
 std::string_view textOf(char const* help) { return help == nullptr ? std::string_view() : std::string_view(help); }
 
 // The binding and the declaration made in the App's arena; the help is copied there too.
+// The names move once, into the declaration: each move of a short text copies it again.
 template <class T>
-Option<T>& declareBound(AppState& app, std::string names, T& target, std::string_view help, bool positional) {
+Option<T>& declareBound(AppState& app, std::string&& names, T& target, std::string_view help, bool positional) {
     auto bound = app.m_arena.make<BoundOption<T>>(target);
     Option<T>& handle = bound->handle();
     app.add(std::move(names), help, positional, OptionHandle(bound.release()));

@@ -12,14 +12,14 @@ namespace quen_3_1::app_detail {
 namespace {
 
 // Room for a typical program's options before the list first grows.
-std::size_t const kFirstOptions = 16;
+std::size_t const kFirstOptions = 32;
 
 }  // namespace
 
 AppState::AppState(std::string program, std::string about)
     : m_program(std::move(program)), m_about(std::move(about)), m_names(std::make_shared<NameTable>()) {}
 
-void AppState::add(std::string names, std::string_view help, bool positional, OptionHandle state) {
+void AppState::add(std::string&& names, std::string_view help, bool positional, OptionHandle state) {
     NameList const split = NameList::split(names);
     bool const flag = !positional && state->kind() == tarvo2::vt_bool;
     bool ok = !split.empty() && (!positional || split.size() == 1);
@@ -31,7 +31,7 @@ void AppState::add(std::string names, std::string_view help, bool positional, Op
         refuse(text::positionalAfterVector(names));
         ok = false;
     }
-    state->declare(std::move(names), split, m_arena.copy(help), positional);
+    state->declare(std::move(names), split, m_arena.copy(help), positional, m_refined);
     if (!ok) {
         m_refused.push_back(std::move(state));
         return;
@@ -144,13 +144,12 @@ void AppState::refuse(std::string const& what) {
 
 // Names are looked up once everything is declared, so they may refer forward.
 std::string AppState::referenceMistake() const {
-    bool positionals = false;
-    for (auto const& option : m_options) {
+    for (std::size_t i = 0; m_refined && i < m_options.size(); ++i) {
+        OptionState const* const option = m_options[i].get();
         std::string const own = option->m_ranged ? option->binding().mistake(option->firstName()) : std::string();
         if (!own.empty()) {
             return text::badDeclaration(own);
         }
-        positionals = positionals || option->positional();
         if (!option->linked()) {
             continue;
         }
@@ -170,7 +169,7 @@ std::string AppState::referenceMistake() const {
             }
         }
     }
-    if (positionals && !m_commands.empty()) {
+    if (m_positionals && !m_commands.empty()) {
         return text::badDeclaration(text::commandsAndPositionals(m_program));
     }
     return {};

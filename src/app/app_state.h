@@ -41,7 +41,7 @@ public:
 
     // Declares an option or positional (its help copied into the arena); a refused one is
     // kept aside, so that the host may still refine what it got back.
-    void add(std::string names, std::string_view help, bool positional, OptionHandle state);
+    void add(std::string&& names, std::string_view help, bool positional, OptionHandle state);
     void addFile(std::string names, std::string help);
     App& addCommand(std::string name, std::string about);
     void addExclusive(std::vector<std::string> names, bool required);
@@ -64,6 +64,9 @@ public:
     std::string mistake() const;
     // Whether a positional was declared.
     bool hasPositionals() const { return m_positionals; }
+    // Whether an option has a requirement, range, variable or relation: most have none, and
+    // the checks of those then need not visit every option.
+    bool refined() const { return m_refined; }
 
     // First: it outlives the declarations it holds.
     OptionArena m_arena;
@@ -94,6 +97,7 @@ private:
     std::string m_negated;
     bool m_vectorPositional = false;
     bool m_positionals = false;
+    bool m_refined = false;
 };
 
 }  // namespace quen_3_1::app_detail

@@ -143,6 +143,9 @@ std::size_t LevelParse::failingLine(FileArguments const& file, std::string const
 }
 
 bool LevelParse::readEnvironment(ResultData& out) {
+    if (m_app.m_envPrefix.empty() && !m_app.refined()) {
+        return true;
+    }
     for (auto const& option : m_app.m_options) {
         if (option->positional() || (m_app.m_envPrefix.empty() && !option->linked())) {
             continue;
@@ -223,7 +226,7 @@ void LevelParse::takeNamed(ResultData& out, std::vector<Commit>& commits) {
     out.m_counts.resize(out.m_counts.size() + options + m_app.m_files.size());
     std::size_t* const counts = out.m_counts.data() + out.m_counts.size() - options - m_app.m_files.size();
     for (std::size_t i = 0; i < options; ++i) {
-        if (m_app.m_options[i]->positional()) {
+        if (m_app.hasPositionals() && m_app.m_options[i]->positional()) {
             counts[i] = m_positionalCounts[i];
         } else if (lineOnly) {
             counts[i] = m_line.counts[layout.option(i)];
@@ -269,7 +272,7 @@ void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
             TakenValue& value = out.m_values[i];
             value.level = m_level;
             if (i == 0 || value.option != out.m_values[i - 1].option) {
-                commits.push_back(Commit{&m_app.m_options[value.option]->binding(), i, 0});
+                commits.emplace_back(&m_app.m_options[value.option]->binding(), i, 0);
             }
             ++commits.back().count;
         }
@@ -283,7 +286,7 @@ void LevelParse::takeLine(ResultData& out, std::vector<Commit>& commits) {
         }
         if (value.option != current) {
             current = value.option;
-            commits.push_back(Commit{&m_app.m_options[current]->binding(), out.m_values.size(), 0});
+            commits.emplace_back(&m_app.m_options[current]->binding(), out.m_values.size(), 0);
         }
         ++commits.back().count;
         out.m_values.push_back(
@@ -310,7 +313,7 @@ void LevelParse::takeWinners(ResultData& out, std::vector<Commit>& commits) {
     for (std::size_t i = 0; i < options; ++i) {
         place[i + 1] += place[i];
         if (place[i + 1] != place[i]) {
-            commits.push_back(Commit{&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]});
+            commits.emplace_back(&m_app.m_options[i]->binding(), base + place[i], place[i + 1] - place[i]);
         }
     }
     out.m_values.resize(base + place[options], TakenValue{});
@@ -344,7 +347,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         plain.push_back(Entry{std::string(), text, ++sequence, Source::CommandLine});
     }
     std::size_t next = 0;
-    for (std::size_t index = 0; index < m_app.m_options.size(); ++index) {
+    for (std::size_t index = 0; m_app.hasPositionals() && index < m_app.m_options.size(); ++index) {
         OptionState& option = *m_app.m_options[index];
         if (!option.positional()) {
             continue;
@@ -364,7 +367,7 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
         }
         m_positionalCounts[index] = take;
         if (take != 0) {
-            commits.push_back(Commit{&option.binding(), first, take});
+            commits.emplace_back(&option.binding(), first, take);
         }
     }
     if (next < beforeTerminator) {
@@ -377,7 +380,8 @@ bool LevelParse::fillPositionals(ResultData& out, std::vector<Commit>& commits) 
 }
 
 bool LevelParse::checkRelations(ResultData& out) {
-    for (auto const& option : m_app.m_options) {
+    for (std::size_t i = 0; m_app.refined() && i < m_app.m_options.size(); ++i) {
+        OptionState const* const option = m_app.m_options[i].get();
         if (!option->m_required && !option->linked()) {
             continue;
         }

@@ -18,6 +18,10 @@ namespace quen_3_1::app_detail {
 // Values for one variable, stored only when the whole parse succeeded: the
 // result's values [first, first + count), before they are put in order.
 struct Commit {
+    // Made where the list keeps it: a commit built aside and copied in was read back as one
+    // wide load over the narrower stores that had just made it, which stalls.
+    Commit(Binding* target, std::size_t from, std::size_t values) : binding(target), first(from), count(values) {}
+
     Binding* binding;
     std::size_t first;
     std::size_t count;

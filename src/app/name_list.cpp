@@ -52,15 +52,22 @@ bool isOneCleanName(std::string_view text) {
 
 }  // namespace
 
-// One pass over the text: each character is looked up once, and a name ends at a
-// separator or at the end. No empty name and no leading '-'.
+// Every path returns the same object, built where the caller wants it: a list copied out
+// through the stack was read back as one wide word over narrower stores just made.
 NameList NameList::split(std::string_view text) {
     NameList list;
     if (isOneCleanName(text)) {
         list.m_places[0] = Place{0, static_cast<std::uint32_t>(text.size())};
         list.m_count = 1;
-        return list;
+    } else if (!list.splitEach(text)) {
+        list.m_count = 0;
     }
+    return list;
+}
+
+// One pass over the text: each character is looked up once, and a name ends at a
+// separator or at the end. No empty name and no leading '-'.
+bool NameList::splitEach(std::string_view text) {
     std::size_t start = 0;
     for (std::size_t at = 0;; ++at) {
         bool const end = at == text.size();
@@ -68,20 +75,16 @@ NameList NameList::split(std::string_view text) {
         if (kind == Character::Plain) {
             continue;
         }
-        if (kind == Character::Refused || at == start || text[start] == '-' || list.m_count == kMostNames) {
-            return {};
+        if (kind == Character::Refused || at == start || text[start] == '-' || m_count == kMostNames) {
+            return false;
         }
-        list.m_places[list.m_count++] =
-            Place{static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(at - start)};
+        m_places[m_count++] = Place{static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(at - start)};
         if (end) {
             break;
         }
         start = at + 1;
     }
-    if (list.m_count == kMostNames && list.m_places[2].size > 2) {
-        return {};
-    }
-    return list;
+    return m_count != kMostNames || m_places[2].size <= 2;
 }
 
 }  // namespace quen_3_1::app_detail

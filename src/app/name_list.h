@@ -28,6 +28,9 @@ public:
     }
 
 private:
+    // Fills the list name by name; false when the text breaks the rules.
+    bool splitEach(std::string_view text);
+
     struct Place {
         std::uint32_t offset = 0;
         std::uint32_t size = 0;

@@ -23,6 +23,7 @@ Option<T>::Option(app_detail::OptionState* state) : m_state(state) {}
 template <class T>
 Option<T>& Option<T>::required() {
     m_state->m_required = true;
+    m_state->refine();
     return *this;
 }
 
@@ -37,6 +38,7 @@ template <class T>
 Option<T>& Option<T>::setRange(Element lowest, Element highest) {
     typed<T>(m_state).range(lowest, highest);
     m_state->m_ranged = true;
+    m_state->refine();
     return *this;
 }
 

@@ -4,7 +4,9 @@
 
 namespace quen_3_1::app_detail {
 
-void OptionState::declare(std::string namesText, NameList names, char const* help, bool positional) {
+void OptionState::declare(std::string&& namesText, NameList const& names, char const* help, bool positional,
+                          bool& refined) {
+    m_refined = &refined;
     m_namesText = std::move(namesText);
     m_names = names;
     m_help = help;
@@ -18,6 +20,7 @@ OptionLinks const& OptionState::unlinked() {
 
 OptionLinks& OptionState::links() {
     if (m_links == nullptr) {
+        refine();
         m_links = std::make_unique<OptionLinks>();
     }
     return *m_links;

@@ -29,7 +29,10 @@ public:
 
     // Once, when the App takes the declaration.
     // `names` is `namesText` split (empty when it breaks the rules); `help` lives as long as the App.
-    void declare(std::string namesText, NameList names, char const* help, bool positional);
+    // `refined` (the App's) is set once a requirement, range, variable or relation is.
+    void declare(std::string&& namesText, NameList const& names, char const* help, bool positional, bool& refined);
+    // Notes on the App that this declaration has a requirement, range, variable or relation.
+    void refine() { *m_refined = true; }
 
     std::string const& namesText() const { return m_namesText; }
     std::size_t nameCount() const { return m_names.size(); }
@@ -74,6 +77,7 @@ private:
     tarvo2::kel_variant_type_t m_kind;
     bool m_many;
     bool m_positional = false;
+    bool* m_refined = nullptr;
     char const* m_help = "";
     std::string m_namesText;
     NameList m_names;

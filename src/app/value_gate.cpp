@@ -1,6 +1,7 @@
 #include "app/value_gate.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quen_3_1::app_detail {
 
@@ -68,10 +69,14 @@ bool ValueGate::onValueParse(char const* name, Value const& value) {
     std::string_view const text = value.m_text == nullptr ? std::string_view() : std::string_view(value.m_text);
     ReadNumber number = 0;
     if (slot < m_layout.options()) {
-        m_refusal = m_app.m_options[slot]->binding().check(name, text, number);
-        if (!m_refusal.empty()) {
+        // Kept only when refused: the empty reason is not copied (a string just returned and
+        // copied whole is read as one wide word over the narrower stores that made it).
+        std::string reason = m_app.m_options[slot]->binding().check(name, text, number);
+        if (!reason.empty()) {
+            m_refusal = std::move(reason);
             return false;
         }
+        m_refusal.clear();
     }
     m_lastSequence = value.m_index;
     SourceValue* const last = m_emptyArgument ? lastOf(*m_into, slot) : nullptr;

@@ -244,6 +244,38 @@ TEST(ResultEntries, EmptyPlainArgumentHasANumberOfItsOwn) {
 
 namespace {
 
+// Names of one to twenty-four characters, each first character its own so that none
+// abbreviates another; a name with any one character changed is not one of them.
+TEST(ResultLookup, NamesOfEveryLengthAreFoundAndNoNameDifferingByOneCharacter) {
+    std::string const tail = "bcdefghijklmnopqrstuvwxy";
+    std::size_t const most = 24;
+    quen_3_1::App app("prog");
+    std::vector<int> values(most + 1);
+    std::vector<std::string> names(most + 1);
+    std::vector<std::string> line;
+    for (std::size_t size = 1; size <= most; ++size) {
+        names[size] = std::string(1, static_cast<char>('a' + size - 1)) + tail.substr(0, size - 1);
+        app.option(names[size], values[size], "A number.");
+        if (size % 2 == 1) {
+            line.push_back("--" + names[size] + "=" + std::to_string(size));
+        }
+    }
+    quen_3_1::Result const result = parseLine(app, line);
+    ASSERT_EQ(result.exitCode(), 0);
+    for (std::size_t size = 1; size <= most; ++size) {
+        bool const odd = size % 2 == 1;
+        EXPECT_EQ(result.given(names[size]), odd) << names[size];
+        EXPECT_EQ(result.count(names[size]), odd ? 1U : 0U) << names[size];
+        EXPECT_EQ(values[size], odd ? static_cast<int>(size) : 0) << names[size];
+        for (std::size_t at = 0; at < size; ++at) {
+            std::string changed = names[size];
+            changed[at] = 'Z';
+            EXPECT_FALSE(result.given(changed)) << changed;
+            EXPECT_EQ(result.count(changed), 0U) << changed;
+        }
+    }
+}
+
 TEST(ResultLookup, EveryNameOfAnOptionCountsItsOccurrences) {
     quen_3_1::App app("prog");
     std::vector<int> jobs;
