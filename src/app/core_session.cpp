@@ -62,6 +62,16 @@ bool mayName(char const* typed, std::string_view name) {
     }
 }
 
+// Whether an argument is the terminator, after which the library keeps plain arguments.
+bool hasTerminator(Arguments const& args) {
+    for (char const* arg : args) {
+        if (arg[0] == '-' && arg[1] == '-' && arg[2] == '\0') {
+            return true;
+        }
+    }
+    return false;
+}
+
 // A result released when it goes out of scope.
 struct ResultHandle {
     IParseResult* result = nullptr;
@@ -230,13 +240,20 @@ int CoreSession::parse(Arguments const& args, Source source, SourceValues& into,
         traceless = std::string("--") + kCollectorName + "=" + args[0];
         argv[1] = traceless.data();
     }
+    // The gate records every value as it is heard; the library's result is only needed for
+    // what follows "--", and storing into one is a good part of a parse's cost.
     ResultHandle handle;
-    m_parser->createResult(&handle.result);
+    if (hasTerminator(args)) {
+        m_parser->createResult(&handle.result);
+    }
     m_gate.begin(source, into, args.size());
     int const code = m_parser->parseArgsVector(static_cast<int>(args.size() + 1), argv, handle.result);
     if (code != 0) {
         error = m_gate.refusal().empty() ? std::string(m_parser->getErrorDesc()) : m_gate.refusal();
         return code;
+    }
+    if (handle.result == nullptr) {
+        return 0;
     }
     char const* text = nullptr;
     for (int found = handle.result->getFirstArgument(&text); found == 0;
