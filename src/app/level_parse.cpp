@@ -118,7 +118,11 @@ bool LevelParse::readFiles(ResultData& out) {
 
 bool LevelParse::readFile(std::string const& path, ResultData& out) {
     FileArguments file;
-    if (!readOptionsFile(path, file)) {
+    FileRead const read = readOptionsFile(path, file);
+    if (read == FileRead::TooLarge) {
+        return fail(out, text::fileTooLarge(path, kMaxOptionsFileBytes));
+    }
+    if (read != FileRead::Read) {
         return fail(out, text::unreadableFile(path));
     }
     std::vector<std::string> rest;
@@ -129,17 +133,32 @@ bool LevelParse::readFile(std::string const& path, ResultData& out) {
     return true;
 }
 
-// The first line at which the file's arguments fail with this same error.
+// The first line at which the file's arguments fail with this same error. Once they include
+// the failing argument, every longer beginning of the file fails alike: the first such
+// beginning is found by halving, in a few parses rather than one per line.
 std::size_t LevelParse::failingLine(FileArguments const& file, std::string const& error) {
-    for (std::size_t count = 1; count < file.arguments.size(); ++count) {
-        SourceValues scratch;
-        std::vector<std::string> rest;
-        std::string again;
-        if (m_session.parse(argumentsOf(file, count), Source::File, scratch, rest, again) != 0 && again == error) {
-            return file.lines[count - 1];
+    if (file.lines.empty()) {
+        return 1;
+    }
+    std::size_t first = 1;
+    std::size_t last = file.arguments.size();
+    while (first < last) {
+        std::size_t const middle = first + (last - first) / 2;
+        if (failsAlike(file, middle, error)) {
+            last = middle;
+        } else {
+            first = middle + 1;
         }
     }
-    return file.lines.empty() ? 1 : file.lines.back();
+    return file.lines[first - 1];
+}
+
+// Whether the first `count` arguments of the file fail with `error`.
+bool LevelParse::failsAlike(FileArguments const& file, std::size_t count, std::string const& error) {
+    SourceValues scratch;
+    std::vector<std::string> rest;
+    std::string again;
+    return m_session.parse(argumentsOf(file, count), Source::File, scratch, rest, again) != 0 && again == error;
 }
 
 bool LevelParse::readEnvironment(ResultData& out) {

@@ -42,6 +42,7 @@ private:
     bool readFiles(ResultData& out);
     bool readFile(std::string const& path, ResultData& out);
     std::size_t failingLine(FileArguments const& file, std::string const& error);
+    bool failsAlike(FileArguments const& file, std::size_t count, std::string const& error);
     bool readEnvironment(ResultData& out);
     bool readVariable(OptionState const& option, std::string const& variable, ResultData& out);
     std::string variableOf(OptionState const& option) const;

@@ -76,6 +76,10 @@ std::string inFile(std::string const& path, std::size_t line, std::string const&
 
 std::string unreadableFile(std::string const& path) { return "Can not read options file '" + path + "'"; }
 
+std::string fileTooLarge(std::string const& path, std::size_t bytes) {
+    return "Options file '" + path + "' holds more than " + std::to_string(bytes >> 20U) + " MiB";
+}
+
 std::string inVariable(std::string const& variable, std::string const& message) {
     return "Environment variable '" + variable + "': " + message;
 }

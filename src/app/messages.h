@@ -30,6 +30,7 @@ std::string unknownCommand(std::string const& typed);
 std::string ambiguousCommand(std::string const& typed, std::vector<std::string> const& candidates);
 std::string inFile(std::string const& path, std::size_t line, std::string const& message);
 std::string unreadableFile(std::string const& path);
+std::string fileTooLarge(std::string const& path, std::size_t bytes);
 std::string inVariable(std::string const& variable, std::string const& message);
 std::string notBoolean(std::string const& value);
 

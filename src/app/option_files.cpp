@@ -1,28 +1,43 @@
 #include "app/option_files.h"
 
+#include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <system_error>
 
 namespace quen_3_1::app_detail {
 
 namespace {
 
 char const kBlanks[] = " \t\v\f\r";
+// Read at a time: a file is read up to its end or just past the most it may hold.
+constexpr std::size_t kChunk = std::size_t{64} << 10U;
 
 }  // namespace
 
-bool readOptionsFile(std::string const& path, FileArguments& out) {
+FileRead readOptionsFile(std::string const& path, FileArguments& out) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return FileRead::Unreadable;
+    }
     std::ifstream file(path, std::ios::binary);
     if (!file) {
-        return false;
+        return FileRead::Unreadable;
     }
-    std::ostringstream text;
-    text << file.rdbuf();
+    std::string text;
+    while (file) {
+        std::size_t const had = text.size();
+        text.resize(had + kChunk);
+        file.read(&text[had], static_cast<std::streamsize>(kChunk));
+        text.resize(had + static_cast<std::size_t>(file.gcount()));
+        if (text.size() > kMaxOptionsFileBytes) {
+            return FileRead::TooLarge;
+        }
+    }
     if (file.bad()) {
-        return false;
+        return FileRead::Unreadable;
     }
-    out = argumentsOfOptionText(text.str());
-    return true;
+    out = argumentsOfOptionText(text);
+    return FileRead::Read;
 }
 
 FileArguments argumentsOfOptionText(std::string const& text) {

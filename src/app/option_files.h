@@ -3,6 +3,8 @@
 #ifndef QUEN_3_1_SRC_APP_OPTION_FILES_H
 #define QUEN_3_1_SRC_APP_OPTION_FILES_H
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,8 +15,14 @@ struct FileArguments {
     std::vector<std::size_t> lines;  // 1-based, one per argument
 };
 
-// False when the file can not be read.
-bool readOptionsFile(std::string const& path, FileArguments& out);
+// The most an options file may hold: the user names the path, and it may name a device
+// that never ends.
+constexpr std::size_t kMaxOptionsFileBytes = std::size_t{16} << 20U;
+
+enum class FileRead : std::uint8_t { Read, Unreadable, TooLarge };
+
+// Reads the file's arguments into `out`; a directory can not be read.
+FileRead readOptionsFile(std::string const& path, FileArguments& out);
 
 // Splits an option text: blank lines and lines whose first non-blank is ';' or
 // '#' are skipped, leading blanks and trailing '\r' removed.

@@ -5,6 +5,7 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <string>
@@ -161,6 +162,68 @@ TEST_F(Sources, UnreadableFile) {
     std::string const path = testing::TempDir() + "quen_app_no_such_file.txt";
     EXPECT_EQ(parseLine(app, {"-f", path}).message(),
               "prog: error: Can not read options file '" + path + "'\n" + errorTail());
+}
+
+// A path may name a device that never ends: the file is read no further than its limit.
+TEST_F(Sources, FileLargerThanTheLimitIsRefused) {
+    std::size_t const limit = std::size_t{16} << 20U;
+    std::string const setting = "--jobs=9\n";
+    // One long comment line fills the file up to the limit exactly.
+    std::string text = "#" + std::string(limit - setting.size() - 2, 'x') + "\n" + setting;
+    ASSERT_EQ(text.size(), limit);
+    std::string const largest = writeFile(text);
+    EXPECT_EQ(parseLine(app, {"-f", largest}).exitCode(), 0);
+    EXPECT_EQ(jobs, 9);
+    std::string const path = writeFile(text + "\n");
+    EXPECT_EQ(parseLine(app, {"-f", path}).message(),
+              "prog: error: Options file '" + path + "' holds more than 16 MiB\n" + errorTail());
+}
+
+TEST_F(Sources, EndlessDeviceIsRefused) {
+    EXPECT_EQ(parseLine(app, {"-f", "/dev/zero"}).message(),
+              "prog: error: Options file '/dev/zero' holds more than 16 MiB\n" + errorTail());
+}
+
+TEST_F(Sources, DirectoryIsUnreadable) {
+    std::string const path = testing::TempDir();
+    EXPECT_EQ(parseLine(app, {"-f", path}).message(),
+              "prog: error: Can not read options file '" + path + "'\n" + errorTail());
+}
+
+// The same error text at an earlier line (an option still waiting for its value there)
+// does not move the error to that line.
+TEST_F(Sources, ErrorAtTheLastLineStaysThere) {
+    std::string const path = writeFile("--mode\nmirror\n--mode\n");
+    quen_3_1::Result const alone = parseLine(app, {"--mode"});
+    std::string const error = alone.message().substr(0, alone.message().find('\n'));
+    ASSERT_EQ(error.rfind("prog: error: ", 0), 0U);
+    EXPECT_EQ(parseLine(app, {"-f", path}).message(),
+              "prog: error: Options file '" + path + "', line 3: " + error.substr(std::string("prog: error: ").size()) +
+                  "\n" + errorTail());
+}
+
+// Finding the line of an error parses the file a few times, not once per line: every parse
+// takes sequence numbers from the process's one range, so a long file failing at its end
+// would otherwise cost time and numbers by the square of its length.
+TEST_F(Sources, ErrorAtTheEndOfALongFileTakesFewParses) {
+    std::size_t const lines = 3000;
+    std::string text;
+    for (std::size_t i = 0; i < lines; ++i) {
+        text += "--jobs=9\n";
+    }
+    std::string const path = writeFile(text + "--nothing\n");
+    auto const sequenceOfJobs = [this] {
+        quen_3_1::Result const result = parseLine(app, {"--jobs=5"});
+        return result.entries("jobs").at(0).sequence;
+    };
+    std::int32_t const before = sequenceOfJobs();
+    EXPECT_EQ(parseLine(app, {"-f", path}).message(), "prog: error: Options file '" + path + "', line " +
+                                                          std::to_string(lines + 1) + ": Unknown option: --nothing\n" +
+                                                          errorTail());
+    std::int32_t const after = sequenceOfJobs();
+    // Each line takes two numbers (the option and its value) per parse; 40 parses of the whole
+    // file are far more than halving needs and far fewer than one parse per line.
+    EXPECT_LT(after - before, static_cast<std::int32_t>(40 * 2 * (lines + 1)));
 }
 
 TEST_F(Sources, PrefixWithTrailingUnderscore) {
