@@ -10,77 +10,22 @@
 // Prints the figures; fails when a ratio or a memory bound is exceeded.
 #include <quen_3_1/quen.h>
 
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
-
-#include <algorithm>
 #include <cstddef>
 #include <cstdio>
-#include <ctime>
-#include <fstream>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "measure.h"
 #include "support/colliding_texts.h"
 
 namespace {
 
-int g_failures = 0;
-
-// The processor time of `body` (this program runs on one thread), not the
-// time on the wall: other processes on the machine stretch a long run's wall
-// time more than a short one's, the processor time of both alike.
-double seconds(std::function<void()> const& body) {
-    std::clock_t const start = std::clock();
-    body();
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
-struct Times {
-    double first;
-    double second;
-};
-
-// Two inputs measured in turns, the best of `tries` runs each: the runs least
-// disturbed by other processes, and a slow spell of the machine falls on both
-// inputs instead of on one.
-Times bestInTurns(int tries, std::function<void()> const& first, std::function<void()> const& second) {
-    Times best{seconds(first), seconds(second)};
-    for (int i = 1; i < tries; ++i) {
-        best.first = std::min(best.first, seconds(first));
-        best.second = std::min(best.second, seconds(second));
-    }
-    return best;
-}
-
-// A /proc/self/status field in KiB ("VmHWM", "VmRSS"); 0 when unreadable.
-long statusKiB(std::string const& field) {
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    while (std::getline(status, line)) {
-        if (line.compare(0, field.size() + 1, field + ":") == 0) {
-            return std::stol(line.substr(field.size() + 1));
-        }
-    }
-    return 0;
-}
-
-// Starts a new peak at the current resident size.
-void resetPeak() {
-    std::ofstream clear("/proc/self/clear_refs");
-    clear << "5";
-}
-
-double peakMiBAbove(long baseKiB) { return static_cast<double>(statusKiB("VmHWM") - baseKiB) / 1024.0; }
-
-void check(bool ok, char const* what) {
-    std::printf("  %-62s %s\n", what, ok ? "ok" : "FAILED");
-    if (!ok) {
-        ++g_failures;
-    }
-}
+using quen_stress::bestInTurns;
+using quen_stress::check;
+using quen_stress::peakMiBAbove;
+using quen_stress::resetPeak;
+using quen_stress::statusKiB;
+using quen_stress::Times;
 
 // One parser with a positional text option; everything is parsed, then every
 // value and plain argument is read back through the result.
@@ -248,24 +193,14 @@ void largeOptionText() {
     check(peak <= 6.0 * 200, "peak memory at most 6x the text");
 }
 
-// Every block of a megabyte or more comes fresh from the system and goes back
-// when freed, so that a small input and a large one both pay for their pages
-// instead of the small one reusing what an earlier run left behind.
-void sameMemoryCostForAllSizes() {
-#if defined(__GLIBC__)
-    mallopt(M_MMAP_THRESHOLD, 1 << 20);
-    mallopt(M_TRIM_THRESHOLD, 1 << 20);
-#endif
-}
-
 }  // namespace
 
 int main() {
-    sameMemoryCostForAllSizes();
+    quen_stress::sameMemoryCostForAllSizes();
     craftedAgainstRandom();
     argumentCount();
     oneLargeArgument();
     largeOptionText();
-    std::printf("%s\n", g_failures == 0 ? "stress: all checks passed" : "stress: FAILED");
-    return g_failures == 0 ? 0 : 1;
+    std::printf("%s\n", quen_stress::failures() == 0 ? "stress: all checks passed" : "stress: FAILED");
+    return quen_stress::failures() == 0 ? 0 : 1;
 }

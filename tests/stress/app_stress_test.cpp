@@ -1,0 +1,154 @@
+// The application layer under large and hostile inputs, measured in one run
+// like the library's own stress test: the time of an input against one four or
+// ten times its size, for a command line, for the options an App declares, and
+// for an options file that fails at its last line (whose line is searched for).
+// Linear growth gives about 4x (bound 10x) or 10x (bound 20x); work by the
+// square of the size would take 16x or 100x.
+// Prints the figures; fails when a ratio is exceeded or a result is wrong.
+#include <quen_3_1/app.h>
+#include <unistd.h>
+
+#include <cstddef>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "measure.h"
+
+namespace {
+
+using quen_stress::bestInTurns;
+using quen_stress::check;
+using quen_stress::Times;
+
+quen_3_1::Result parse(quen_3_1::App& app, std::vector<std::string> const& arguments) {
+    std::vector<char const*> argv{"prog"};
+    for (std::string const& argument : arguments) {
+        argv.push_back(argument.c_str());
+    }
+    argv.push_back(nullptr);
+    return app.parse(static_cast<int>(argv.size() - 1), argv.data());
+}
+
+// Options of each kind and a plain argument, over and over, then "--" and arguments that
+// look like options, which only the positional takes. Whether every value arrived.
+bool commandLine(std::size_t count) {
+    std::vector<std::string> arguments;
+    std::size_t rounds = 0;
+    for (; arguments.size() < count / 2; ++rounds) {
+        arguments.push_back("--level=" + std::to_string(rounds % 1000));
+        arguments.push_back("--tag");
+        arguments.push_back("t" + std::to_string(rounds));
+        arguments.push_back("--verbose");
+        arguments.push_back("file" + std::to_string(rounds));
+    }
+    arguments.emplace_back("--");
+    std::size_t const late = count - arguments.size();
+    while (arguments.size() < count) {
+        arguments.push_back("-late" + std::to_string(arguments.size()));
+    }
+    quen_3_1::App app("prog");
+    std::vector<int> levels;
+    std::vector<std::string> tags;
+    bool verbose = false;
+    std::vector<std::string> files;
+    app.option("level", levels, "Levels.");
+    app.option("tag", tags, "Tags.");
+    app.option("verbose", verbose, "More.");
+    app.positional("files", files, "Files.");
+    quen_3_1::Result const result = parse(app, arguments);
+    // Each round gives four entries (the flag's included); each late argument one, a file.
+    return result.exitCode() == 0 && result.entries().size() == 4 * rounds + late && levels.size() == rounds &&
+           tags.size() == rounds && verbose && files.size() == rounds + late && files.back() == arguments.back() &&
+           result.rest().empty();
+}
+
+void argumentCount() {
+    bool small = false;
+    bool large = false;
+    Times const t = bestInTurns(
+        3, [&] { small = commandLine(100000); }, [&] { large = commandLine(1000000); });
+    std::printf("App command line: 100,000 arguments in %.3f s, 1,000,000 in %.3f s (ratio %.1f)\n", t.first, t.second,
+                t.second / t.first);
+    check(small && large, "every value read back");
+    check(t.second <= 20.0 * t.first, "10x the arguments within 20x the time");
+}
+
+// An App of `count` options, declared and given 100 of them.
+bool manyOptions(std::size_t count) {
+    quen_3_1::App app("prog");
+    std::vector<int> values(count);
+    for (std::size_t k = 0; k < count; ++k) {
+        app.option("option-" + std::to_string(k), values[k], "One of many.");
+    }
+    std::vector<std::string> arguments;
+    for (std::size_t j = 0; j < 100; ++j) {
+        arguments.push_back("--option-" + std::to_string(j * (count / 100)) + "=" + std::to_string(j + 1));
+    }
+    quen_3_1::Result const result = parse(app, arguments);
+    return result.exitCode() == 0 && result.entries().size() == 100 && values[(count / 100) * 99] == 100;
+}
+
+void optionCount() {
+    bool small = false;
+    bool large = false;
+    Times const t = bestInTurns(
+        3, [&] { small = manyOptions(10000); }, [&] { large = manyOptions(100000); });
+    std::printf("App declaring: 10,000 options in %.3f s, 100,000 in %.3f s (ratio %.1f)\n", t.first, t.second,
+                t.second / t.first);
+    check(small && large, "every given option read back");
+    check(t.second <= 20.0 * t.first, "10x the options within 20x the time");
+}
+
+std::string writeFailingFile(std::size_t lines, char const* name) {
+    std::string const path = (std::filesystem::temp_directory_path() /
+                              ("quen_app_stress_" + std::to_string(getpid()) + "_" + name + ".opts"))
+                                 .string();
+    std::ofstream file(path);
+    for (std::size_t i = 0; i < lines; ++i) {
+        file << "--level=" << i % 1000 << '\n';
+    }
+    file << "--nothing\n";
+    return path;
+}
+
+// The error's line is found by parsing beginnings of the file again.
+bool failsAtItsLastLine(std::string const& path, std::size_t lines) {
+    quen_3_1::App app("prog");
+    std::vector<int> levels;
+    app.option("level", levels, "Levels.");
+    app.optionsFile("config", "Options from a file.");
+    quen_3_1::Result const result = parse(app, {"--config=" + path});
+    std::string const expected =
+        "prog: error: Options file '" + path + "', line " + std::to_string(lines + 1) + ": Unknown option: --nothing\n";
+    return result.exitCode() == 2 && result.message().compare(0, expected.size(), expected) == 0;
+}
+
+void failingOptionsFile() {
+    std::string const small = writeFailingFile(25000, "small");
+    std::string const large = writeFailingFile(100000, "large");
+    bool smallFound = false;
+    bool largeFound = false;
+    Times const t = bestInTurns(
+        3, [&] { smallFound = failsAtItsLastLine(small, 25000); },
+        [&] { largeFound = failsAtItsLastLine(large, 100000); });
+    std::filesystem::remove(small);
+    std::filesystem::remove(large);
+    std::printf("App options file failing at its last line: 25,000 lines in %.3f s, 100,000 in %.3f s (ratio %.1f)\n",
+                t.first, t.second, t.second / t.first);
+    check(smallFound && largeFound, "the error names the last line");
+    check(t.second <= 10.0 * t.first, "4x the lines within 10x the time");
+}
+
+}  // namespace
+
+int main() {
+    quen_stress::sameMemoryCostForAllSizes();
+    argumentCount();
+    optionCount();
+    failingOptionsFile();
+    std::printf("%s\n", quen_stress::failures() == 0 ? "app stress: all checks passed" : "app stress: FAILED");
+    return quen_stress::failures() == 0 ? 0 : 1;
+}
