@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,28 @@ quen_3_1::Result parse(quen_3_1::App& app, std::vector<std::string> const& argum
     }
     argv.push_back(nullptr);
     return app.parse(static_cast<int>(argv.size() - 1), argv.data());
+}
+
+// One case at two sizes, in turns: `run` answers whether the result was right. Prints the
+// times, then checks the results and that the time grew at most `bound` times.
+struct Growth {
+    char const* what;  // printed before the sizes
+    std::size_t small;
+    std::size_t large;
+    double bound;
+    char const* right;   // the check of the results
+    char const* within;  // the check of the ratio
+};
+
+void measure(Growth const& g, std::function<bool(std::size_t)> const& run) {
+    bool small = false;
+    bool large = false;
+    Times const t = bestInTurns(
+        3, [&] { small = run(g.small); }, [&] { large = run(g.large); });
+    std::printf("App %s: %zu in %.3f s, %zu in %.3f s (ratio %.1f)\n", g.what, g.small, t.first, g.large, t.second,
+                t.second / t.first);
+    check(small && large, g.right);
+    check(t.second <= g.bound * t.first, g.within);
 }
 
 // Options of each kind and a plain argument, over and over, then "--" and arguments that
@@ -65,17 +88,6 @@ bool commandLine(std::size_t count) {
            result.rest().empty();
 }
 
-void argumentCount() {
-    bool small = false;
-    bool large = false;
-    Times const t = bestInTurns(
-        3, [&] { small = commandLine(100000); }, [&] { large = commandLine(1000000); });
-    std::printf("App command line: 100,000 arguments in %.3f s, 1,000,000 in %.3f s (ratio %.1f)\n", t.first, t.second,
-                t.second / t.first);
-    check(small && large, "every value read back");
-    check(t.second <= 20.0 * t.first, "10x the arguments within 20x the time");
-}
-
 // An App of `count` options, declared and given 100 of them.
 bool manyOptions(std::size_t count) {
     quen_3_1::App app("prog");
@@ -91,20 +103,9 @@ bool manyOptions(std::size_t count) {
     return result.exitCode() == 0 && result.entries().size() == 100 && values[(count / 100) * 99] == 100;
 }
 
-void optionCount() {
-    bool small = false;
-    bool large = false;
-    Times const t = bestInTurns(
-        3, [&] { small = manyOptions(10000); }, [&] { large = manyOptions(100000); });
-    std::printf("App declaring: 10,000 options in %.3f s, 100,000 in %.3f s (ratio %.1f)\n", t.first, t.second,
-                t.second / t.first);
-    check(small && large, "every given option read back");
-    check(t.second <= 20.0 * t.first, "10x the options within 20x the time");
-}
-
-std::string writeFailingFile(std::size_t lines, char const* name) {
+std::string writeFailingFile(std::size_t lines) {
     std::string const path = (std::filesystem::temp_directory_path() /
-                              ("quen_app_stress_" + std::to_string(getpid()) + "_" + name + ".opts"))
+                              ("quen_app_stress_" + std::to_string(getpid()) + "_" + std::to_string(lines) + ".opts"))
                                  .string();
     std::ofstream file(path);
     for (std::size_t i = 0; i < lines; ++i) {
@@ -127,27 +128,29 @@ bool failsAtItsLastLine(std::string const& path, std::size_t lines) {
 }
 
 void failingOptionsFile() {
-    std::string const small = writeFailingFile(25000, "small");
-    std::string const large = writeFailingFile(100000, "large");
-    bool smallFound = false;
-    bool largeFound = false;
-    Times const t = bestInTurns(
-        3, [&] { smallFound = failsAtItsLastLine(small, 25000); },
-        [&] { largeFound = failsAtItsLastLine(large, 100000); });
+    Growth const g{"options file failing at its last line, lines",
+                   25000,
+                   100000,
+                   10.0,
+                   "the error names the last line",
+                   "4x the lines within 10x the time"};
+    std::string const small = writeFailingFile(g.small);
+    std::string const large = writeFailingFile(g.large);
+    measure(g, [&](std::size_t lines) { return failsAtItsLastLine(lines == g.small ? small : large, lines); });
     std::filesystem::remove(small);
     std::filesystem::remove(large);
-    std::printf("App options file failing at its last line: 25,000 lines in %.3f s, 100,000 in %.3f s (ratio %.1f)\n",
-                t.first, t.second, t.second / t.first);
-    check(smallFound && largeFound, "the error names the last line");
-    check(t.second <= 10.0 * t.first, "4x the lines within 10x the time");
 }
 
 }  // namespace
 
 int main() {
     quen_stress::sameMemoryCostForAllSizes();
-    argumentCount();
-    optionCount();
+    measure({"command line, arguments", 100000, 1000000, 20.0, "every value read back",
+             "10x the arguments within 20x the time"},
+            commandLine);
+    measure({"declaring and parsing, options", 10000, 100000, 20.0, "every given option read back",
+             "10x the options within 20x the time"},
+            manyOptions);
     failingOptionsFile();
     std::printf("%s\n", quen_stress::failures() == 0 ? "app stress: all checks passed" : "app stress: FAILED");
     return quen_stress::failures() == 0 ? 0 : 1;
