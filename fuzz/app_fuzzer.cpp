@@ -2,19 +2,27 @@
 // a fuzzed command line.
 //
 // Input: the first byte picks the program (bit 0: subcommands, nested, else
-// positionals); the rest are the arguments, split at NUL and newline bytes.
+// positionals); the rest are the arguments, split at NUL and newline bytes, up
+// to a 0xFF byte: what follows it is the text of an options file, named by one
+// more argument.
 //
 // Checked: the exit code is 0 or 2 (never a declaration mistake); an error is
 // one "PROGRAM: error: " line followed by the usage and the hint; a successful
 // parse lists its entries in strictly increasing sequence order, each under a
 // declared name, one option's entries being exactly its part of the list; the
 // bound variables hold only what the ranges, allowed values, checks and
-// relations let through; a copy of the result reads the same.
+// relations let through; a copy of the result reads the same; an error in the
+// options file names a line of it that holds an argument.
 #include <quen_3_1/app.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 #include <set>
 #include <string>
@@ -61,6 +69,7 @@ void declareOptions(quen_3_1::App& app, Variables& v) {
     app.option("tag", v.tags, "Labels.").split(',');
     app.option("limit", v.limit, "At most.");
     app.option("secret", v.secret, "Hidden.").hidden();
+    app.optionsFile("config", "Read options from this file.");
 }
 
 void declareCommands(quen_3_1::App& app, Variables& v) {
@@ -90,6 +99,43 @@ void checkError(quen_3_1::Result const& result) {
     std::size_t const lineEnd = message.find('\n');
     check(lineEnd != std::string::npos && message.find(": error: ") < lineEnd, "the first line is the error");
     check(endsWith(message, " --help' for more information.\n"), "an error ends with the hint");
+}
+
+// The options file of every input: one path, written anew each time.
+std::string const& optionsFilePath() {
+    static std::string const path =
+        (std::filesystem::temp_directory_path() / ("quen_app_fuzz_" + std::to_string(getpid()) + ".opts")).string();
+    return path;
+}
+
+// The text of line `number` (1-based) of `text`, or nothing when it has fewer lines.
+std::optional<std::string> lineOf(std::string const& text, std::size_t number) {
+    std::size_t start = 0;
+    for (std::size_t line = 1; line < number; ++line) {
+        start = text.find('\n', start);
+        if (start == std::string::npos) {
+            return std::nullopt;
+        }
+        ++start;
+    }
+    if (start >= text.size()) {
+        return std::nullopt;
+    }
+    return text.substr(start, text.find('\n', start) - start);
+}
+
+// An error in the file names a line that holds an argument: not blank, not a comment.
+void checkFileLine(std::string const& message, std::string const& text) {
+    std::string const head = "prog: error: Options file '" + optionsFilePath() + "', line ";
+    if (message.compare(0, head.size(), head) != 0) {
+        return;
+    }
+    std::size_t const number = std::strtoul(message.c_str() + head.size(), nullptr, 10);
+    std::optional<std::string> const line = lineOf(text, number);
+    check(line.has_value(), "the line named is in the file");
+    std::size_t const first = line->find_first_not_of(" \t\v\f\r");
+    check(first != std::string::npos && (*line)[first] != '#' && (*line)[first] != ';',
+          "the line named holds an argument");
 }
 
 void checkEntries(quen_3_1::Result const& result, std::set<std::string> const& names) {
@@ -129,8 +175,15 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         return 0;
     }
     bool const commands = (data[0] & 1) != 0;
-    std::vector<std::string> args = quen_fuzz::splitArguments(data + 1, size - 1);
+    std::uint8_t const* const end = data + size;
+    std::uint8_t const* const cut = std::find(data + 1, end, std::uint8_t{0xFF});
+    std::vector<std::string> args = quen_fuzz::splitArguments(data + 1, static_cast<std::size_t>(cut - data - 1));
     args.insert(args.begin(), "prog");
+    std::string const fileText = cut == end ? std::string() : std::string(cut + 1, end);
+    if (cut != end) {
+        std::ofstream(optionsFilePath(), std::ios::binary) << fileText;
+        args.push_back("--config=" + optionsFilePath());
+    }
     std::vector<char const*> argv;
     for (std::string const& arg : args) {
         argv.push_back(arg.c_str());
@@ -151,6 +204,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     check(result.done() == (code != 0 || !result.message().empty()), "done after an error or a printed text");
     if (code == 2) {
         checkError(result);
+        checkFileLine(result.message(), fileText);
     }
     if (!result.done()) {
         std::set<std::string> names{"jobs",  "mask",   "offset", "ratio", "mode",   "verbose", "quiet", "tag",
