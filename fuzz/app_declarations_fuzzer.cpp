@@ -28,18 +28,7 @@
 namespace {
 
 using quen_fuzz::check;
-
-std::vector<std::string> splitAt(std::string const& text, char separator) {
-    std::vector<std::string> pieces(1);
-    for (char c : text) {
-        if (c == separator) {
-            pieces.emplace_back();
-        } else {
-            pieces.back() += c;
-        }
-    }
-    return pieces;
-}
+using quen_fuzz::splitAt;
 
 // The variables the declarations bind: a deque never moves what it holds.
 struct Variables {

@@ -27,19 +27,9 @@
 
 namespace {
 
-char const kPrefix[] = "QUENFUZZ_";
+using quen_fuzz::splitAt;
 
-std::vector<std::string> splitAt(std::string const& text, char separator) {
-    std::vector<std::string> pieces(1);
-    for (char c : text) {
-        if (c == separator) {
-            pieces.emplace_back();
-        } else {
-            pieces.back() += c;
-        }
-    }
-    return pieces;
-}
+char const kPrefix[] = "QUENFUZZ_";
 
 tarvo2::kel_variant_type_t kindOf(std::string const& text) {
     switch (text.empty() ? 's' : text[0]) {

@@ -124,6 +124,18 @@ void parseTextAndReadBack(quen_3_1::IParser* parser, quen_3_1::IParseResult* res
     texts.verifyReadable();
 }
 
+std::vector<std::string> splitAt(std::string const& text, char separator) {
+    std::vector<std::string> pieces(1);
+    for (char c : text) {
+        if (c == separator) {
+            pieces.emplace_back();
+        } else {
+            pieces.back() += c;
+        }
+    }
+    return pieces;
+}
+
 std::vector<std::string> splitArguments(std::uint8_t const* data, std::size_t size) {
     std::vector<std::string> args(1);
     for (std::size_t i = 0; i < size; ++i) {

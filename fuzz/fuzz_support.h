@@ -49,6 +49,9 @@ void walkResult(quen_3_1::IParseResult* result, std::vector<std::string> const& 
 void parseTextAndReadBack(quen_3_1::IParser* parser, quen_3_1::IParseResult* result, std::string const& text,
                           std::vector<std::string> const& names, HandedOut& texts);
 
+// Splits `text` at every `separator`: n separators give n + 1 pieces, empty ones included.
+std::vector<std::string> splitAt(std::string const& text, char separator);
+
 // Splits fuzz bytes into arguments at NUL and newline bytes.
 std::vector<std::string> splitArguments(std::uint8_t const* data, std::size_t size);
 
