@@ -14,24 +14,18 @@
 #include <fstream>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "measure.h"
+#include "support/app_harness.h"
 
 namespace {
 
 using quen_stress::bestInTurns;
 using quen_stress::check;
 using quen_stress::Times;
-
-quen_3_1::Result parse(quen_3_1::App& app, std::vector<std::string> const& arguments) {
-    std::vector<char const*> argv{"prog"};
-    for (std::string const& argument : arguments) {
-        argv.push_back(argument.c_str());
-    }
-    argv.push_back(nullptr);
-    return app.parse(static_cast<int>(argv.size() - 1), argv.data());
-}
+using quen_test::parseLine;
 
 // One case at two sizes, in turns: `run` answers whether the result was right. Prints the
 // times, then checks the results and that the time grew at most `bound` times.
@@ -81,10 +75,11 @@ bool commandLine(std::size_t count) {
     app.option("tag", tags, "Tags.");
     app.option("verbose", verbose, "More.");
     app.positional("files", files, "Files.");
-    quen_3_1::Result const result = parse(app, arguments);
+    std::string const last = arguments.back();
+    quen_3_1::Result const result = parseLine(app, std::move(arguments));
     // Each round gives four entries (the flag's included); each late argument one, a file.
     return result.exitCode() == 0 && result.entries().size() == 4 * rounds + late && levels.size() == rounds &&
-           tags.size() == rounds && verbose && files.size() == rounds + late && files.back() == arguments.back() &&
+           tags.size() == rounds && verbose && files.size() == rounds + late && files.back() == last &&
            result.rest().empty();
 }
 
@@ -99,7 +94,7 @@ bool manyOptions(std::size_t count) {
     for (std::size_t j = 0; j < 100; ++j) {
         arguments.push_back("--option-" + std::to_string(j * (count / 100)) + "=" + std::to_string(j + 1));
     }
-    quen_3_1::Result const result = parse(app, arguments);
+    quen_3_1::Result const result = parseLine(app, std::move(arguments));
     return result.exitCode() == 0 && result.entries().size() == 100 && values[(count / 100) * 99] == 100;
 }
 
@@ -121,7 +116,7 @@ bool failsAtItsLastLine(std::string const& path, std::size_t lines) {
     std::vector<int> levels;
     app.option("level", levels, "Levels.");
     app.optionsFile("config", "Options from a file.");
-    quen_3_1::Result const result = parse(app, {"--config=" + path});
+    quen_3_1::Result const result = parseLine(app, {"--config=" + path});
     std::string const expected =
         "prog: error: Options file '" + path + "', line " + std::to_string(lines + 1) + ": Unknown option: --nothing\n";
     return result.exitCode() == 2 && result.message().compare(0, expected.size(), expected) == 0;
